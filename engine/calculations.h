@@ -1,0 +1,55 @@
+#pragma once
+
+#include "engine/db_table.h"
+#include "engine/records.h"
+#include "engine/results_display.h"
+#include "engine/vswr_table.h"
+
+#include <string>
+
+namespace quillon::engine {
+
+/// Turns the inputs of one system into its results and hands their texts to the display.
+///
+/// Every public operation either completes, with its results stored and shown, or throws ArithmeticError and leaves
+/// the results and the display as they were.
+class Calculations
+{
+public:
+    /// @param systems    the records to work on; must outlive this object.
+    /// @param separator  decimal separator of the texts handed to the display.
+    Calculations(AntennaSystems& systems, ResultsDisplay& display, EngineHooks& hooks, std::string separator = ".");
+
+    /// Fill the fixed tables; the start-up sequence calls each once. Before that no value is found in them.
+    void BuildDBTable();
+    void BuildVSWRTable();
+    [[nodiscard]] const DBTable& dBTable() const noexcept { return m_dBTable; }
+
+    /// Power that a dB value of the system stands for, W; 0 when the value is off the table.
+    /// @param kind  1 antenna power gain, 2 system power, 3 coax power loss, 4 ERP. @throws std::out_of_range else.
+    float PowerFromDB(int kind, int system);
+
+    /// Power accepted at the feed point, W; sets the system's mismatch figures.
+    /// @param power  W that leave the coax
+    float ApplyVSWR(float power, int system);
+
+    /// Sets and shows CoaxDBLoss, dB: the one result that is computed whatever the system's flags say.
+    void ComputeCoaxDBLoss(int system);
+
+    /// Computes and shows all other results of a system; does nothing while its flag 3 is false.
+    void ShowSystemResults(int system);
+
+    /// ComputeCoaxDBLoss, then ShowSystemResults, as one operation that succeeds or fails as a whole.
+    void RefreshData(int system);
+
+private:
+    // implementer's choice
+    AntennaSystems& m_systems;
+    ResultsDisplay* m_display;
+    EngineHooks& m_hooks;
+    std::string m_separator;
+    DBTable m_dBTable{};
+    VSWRTable m_vswrTable{};
+};
+
+} // namespace quillon::engine

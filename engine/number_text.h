@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quillon::engine {
+
+/// Text of a number for formula texts: at most seven significant digits, no trailing zeros, no exponent,
+/// "-" only when negative, "0.5" with its leading zero. A tie in the eighth digit rounds away from zero.
+/// @param separator  what stands between the whole part and the fraction.
+[[nodiscard]] std::string PlainText(float value, std::string_view separator = ".");
+
+/// Shortest text that reads back as the same float, without exponent: for files, reports and text boxes.
+[[nodiscard]] std::string ShortestText(float value, std::string_view separator = ".");
+
+/// Reads a number from a data file: decimal point whatever the locale, stops at the first character that cannot
+/// belong to a number; 0 for a text that starts with none. Too large a number is cut to the largest float.
+[[nodiscard]] float NumberFromText(std::string_view text) noexcept;
+
+/// Whole number nearest to a value, halves to even, judged against 16 bits after rounding.
+/// @throws ArithmeticError outside -32768 to 32767 or when value is no number.
+[[nodiscard]] std::int16_t ToInteger(double value);
+
+} // namespace quillon::engine
