@@ -1,0 +1,61 @@
+#pragma once
+
+#include "store/program_folder.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon::store {
+
+/// Band suffixes of the gain keys, from the longest wave to the shortest.
+inline constexpr std::array<std::string_view, 14> kBandSuffixes{"160", "80", "60", "40", "30", "20",   "17",
+                                                               "15",  "12", "10", "6",  "2",  "1.25", ".70"};
+
+/// What one model's section says of one band; texts of at most 25 characters.
+struct BandColumn {
+    std::string covered; ///< "True", "False", or 25 NULs while no key has been seen
+    std::string gain;    ///< gain figure as read
+    std::string unit;    ///< gain unit as read
+};
+
+/// The model loaded last, one column per band in the order of kBandSuffixes. Shared by both systems and the editor.
+using BandTable = std::array<BandColumn, 14>;
+
+/// The two further figures of a cable: jacket's outside diameter in inches and impedance in ohms.
+struct CableFigures {
+    std::optional<float> Spec1;
+    std::optional<float> Spec2;
+};
+
+/// Reads the antenna and coax catalogues. Names are bytes as they stand in files and folders; a name that cannot be a
+/// maker's file name (see IsMakerName) has no models and never reaches the file system. Each call opens the file anew.
+class Catalogue
+{
+public:
+    explicit Catalogue(ProgramFolder folder);
+
+    /// Makers' names joined by "|". @param kind  "Antennas" or "Cables"
+    [[nodiscard]] std::string GetDataFileList(std::string_view kind) const;
+
+    [[nodiscard]] std::vector<std::string> LoadAntennaMakers() const;
+    [[nodiscard]] std::vector<std::string> LoadAntennas(std::string_view maker) const;
+    [[nodiscard]] std::string LoadAntennaGainType(std::string_view maker, std::string_view model) const;
+    /// Fills the band table. @return entries of the band list ("20 Meters"), in file order.
+    std::vector<std::string> LoadAntennaGain(std::string_view maker, std::string_view model, BandTable& table) const;
+
+    [[nodiscard]] std::vector<std::string> LoadCableMakers() const;
+    [[nodiscard]] std::vector<std::string> LoadCableTypes(std::string_view maker) const;
+    [[nodiscard]] static bool IsKFactorMaker(std::string_view maker, std::string_view type);
+    /// Reads the nine losses into coaxSpec; a point without a value keeps what it held.
+    CableFigures LoadCableLoss(std::string_view maker, std::string_view type, std::array<float, 9>& coaxSpec) const;
+    /// Reads K1 and K2 into places 1 and 2 of coaxSpec; a factor without a value keeps what it held.
+    CableFigures LoadCableKFactors(std::string_view maker, std::string_view type, std::array<float, 9>& coaxSpec) const;
+
+private:
+    ProgramFolder m_folder;
+};
+
+} // namespace quillon::store
