@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+class QWidget;
+
+namespace quillon::ui {
+
+/// The length that all margins and gaps are multiples of: a quarter of the application font's line, at least 4 px.
+[[nodiscard]] int BaseUnit();
+
+/// The application font changed in size by a factor and in weight; no size is set absolutely anywhere.
+[[nodiscard]] QFont ScaledFont(double factor, QFont::Weight weight = QFont::Normal);
+
+[[nodiscard]] bool IsDark(const QPalette& palette);
+[[nodiscard]] QColor CardColor(const QPalette& palette);
+[[nodiscard]] QColor HairlineColor(const QPalette& palette);
+[[nodiscard]] QColor OutlineColor(const QPalette& palette);
+[[nodiscard]] QColor EmptyMarkerColor(const QPalette& palette);
+[[nodiscard]] QColor QuietColor(const QPalette& palette);
+[[nodiscard]] QColor BetterColor(const QPalette& palette);
+
+/// A text that comes from a file or a person, safe for places that would take it as rich text (tool tips).
+[[nodiscard]] QString PlainToolTip(const QString& text);
+
+} // namespace quillon::ui
