@@ -15,4 +15,8 @@ public:
 /// @throws ArithmeticError when it is infinite or no number.
 [[nodiscard]] float Checked(float value);
 
+/// Stores an intermediate result as the 32-bit value that it is kept as.
+/// @throws ArithmeticError when it is no number or too large for that.
+[[nodiscard]] float StoreAsFloat(double value);
+
 } // namespace quillon::engine

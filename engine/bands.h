@@ -11,7 +11,8 @@ inline constexpr int kBandCount = 14;
 [[nodiscard]] const std::array<std::string_view, kBandCount>& BandNames() noexcept;
 
 /// A band's working frequency and the row of the frequency list it was found in.
-struct BandFrequencyRow {
+struct BandFrequencyRow
+{
     float frequency; ///< MHz
     int index;       ///< 13 - position: the frequency list runs the other way round
 };

@@ -2,16 +2,21 @@
 
 #include <array>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <string_view>
 
 namespace quillon::engine {
 
 /// One row of the table that turns decibels into powers.
-struct DBRow {
-    float dB;              ///< row index * 0.1
-    float gainCoefficient; ///< 10^(dB / 10) to four digits, but for three rows, as given
-    float lossCoefficient; ///< 1 / gainCoefficient to four decimals
+struct DBRow
+{
+    /// Row index * 0.1. No number while the row is not filled, so that no lookup finds it.
+    float dB = std::numeric_limits<float>::quiet_NaN();
+    float gainCoefficient = 0; ///< 10^(dB / 10) to four digits, but for three rows, as given
+    float lossCoefficient = 0; ///< 1 / gainCoefficient to four decimals
+
+    [[nodiscard]] bool operator==(const DBRow&) const = default;
 };
 
 inline constexpr int kDBRowCount = 200;
@@ -21,11 +26,14 @@ using DBTable = std::array<DBRow, kDBRowCount>;
 [[nodiscard]] DBTable BuildDBTable();
 
 /// Finds the row of a dB value by bisection; the match is exact.
+/// @param dB        rounded to tenths.
 /// @param eachStep  called once per step of the search.
+/// @return the row, or nothing below 0, from 20.0 on and between the steps.
 [[nodiscard]] std::optional<DBRow> FindDBRow(const DBTable& table, float dB, const std::function<void()>& eachStep);
 
 /// Catalogue gain (tenths of a dB) as dBd, rounded to tenths: 30 in "dBd" gives 3.0, in "dBi" 0.9.
-/// @param gainType  its first three characters count, and their case.
+/// @param gainType  its first three characters count, and their case; any unit but "dBi" leaves the gain as it is.
+/// @throws ArithmeticError when the gain is not finite.
 [[nodiscard]] float GainToDBd(float gain, std::string_view gainType);
 
 } // namespace quillon::engine

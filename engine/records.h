@@ -16,7 +16,8 @@ inline constexpr Boolean kFalse = 0;
 inline constexpr Boolean kTrue = -1;
 
 /// The inputs of one antenna system.
-struct SystemData {
+struct SystemData
+{
     FixedText<25> AntennaBrand;
     FixedText<25> AntennaModel;
     float AntennaGain = 0;           ///< dBd; from GainToDBd when chosen in a list, as typed otherwise
@@ -24,21 +25,22 @@ struct SystemData {
     Boolean UseAntennaList = kFalse; ///< the system has an antenna; ERP is computed only while it has
     FixedText<15> CoaxBrand;
     FixedText<20> CoaxModel;
-    std::int16_t CoaxType = 0;       ///< place of the cable in its maker's list, from 0
-    float CoaxLoss = 0;              ///< dB per 100 ft at Frequency
-    float CoaxLength = 0;            ///< ft
-    Boolean UseCoaxList = kFalse;    ///< the system has a coax
-    float ConnectorLoss = 0;         ///< dB of all connectors
-    float Frequency = 0;             ///< MHz
-    std::int16_t Connectors = 0;     ///< number of connectors
-    float XmitPower = 0;             ///< transmitter output power, W
-    float VSWR = 0;                  ///< standing-wave ratio
+    std::int16_t CoaxType = 0;    ///< place of the cable in its maker's list, from 0
+    float CoaxLoss = 0;           ///< dB per 100 ft at Frequency
+    float CoaxLength = 0;         ///< ft
+    Boolean UseCoaxList = kFalse; ///< the system has a coax
+    float ConnectorLoss = 0;      ///< dB of all connectors
+    float Frequency = 0;          ///< MHz
+    std::int16_t Connectors = 0;  ///< number of connectors
+    float XmitPower = 0;          ///< transmitter output power, W
+    float VSWR = 0;               ///< standing-wave ratio
 
     [[nodiscard]] bool operator==(const SystemData&) const = default;
 };
 
 /// The results of one antenna system, in this order.
-struct SystemResults {
+struct SystemResults
+{
     float AntennaGainDBd = 0;   ///< dBd, used for the system gain; set together with SystemData::AntennaGain by a list
     float ERP = 0;              ///< effective radiated power, W
     float SystemGain = 0;       ///< dB
@@ -60,6 +62,7 @@ class SystemState
 public:
     /// @param number  1 to 6. @throws std::out_of_range for any other number.
     [[nodiscard]] Boolean Flag(int number) const { return m_flags.at(static_cast<std::size_t>(number - 1)); }
+
     void SetFlag(int number, Boolean value) { m_flags.at(static_cast<std::size_t>(number - 1)) = value; }
 
     [[nodiscard]] bool operator==(const SystemState&) const = default;
@@ -74,7 +77,8 @@ inline constexpr int kComputeFlag = 3;
 inline constexpr int kSavedFlag = 4;
 
 /// Both systems' records: one object for the whole run, made where the program starts and handed down.
-struct AntennaSystems {
+struct AntennaSystems
+{
     PerSystem<SystemData> Data;
     PerSystem<SystemResults> Results;
     PerSystem<SystemState> State;

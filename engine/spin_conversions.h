@@ -5,7 +5,8 @@
 namespace quillon::engine {
 
 /// A spin position turned into a value.
-struct SpinValue {
+struct SpinValue
+{
     float value;     ///< rounded with the routine's mask
     float unrounded; ///< before rounding
 };

@@ -30,7 +30,10 @@ inline constexpr std::array kBothSystems{SystemId::One, SystemId::Two};
 }
 
 /// @return 1 for System One, 2 for System Two: the number shown to people.
-[[nodiscard]] constexpr int Number(SystemId system) noexcept { return system == SystemId::One ? 1 : 2; }
+[[nodiscard]] constexpr int Number(SystemId system) noexcept
+{
+    return system == SystemId::One ? 1 : 2;
+}
 
 /// @return the system that the given one is compared with.
 [[nodiscard]] constexpr SystemId Other(SystemId system) noexcept
@@ -44,6 +47,7 @@ class PerSystem
 {
 public:
     constexpr PerSystem() = default;
+
     constexpr PerSystem(T one, T two)
         : m_elements{std::move(one), std::move(two)}
     {
@@ -53,6 +57,7 @@ public:
     {
         return m_elements[static_cast<std::size_t>(system)];
     }
+
     [[nodiscard]] constexpr const T& operator[](SystemId system) const noexcept
     {
         return m_elements[static_cast<std::size_t>(system)];
