@@ -1,0 +1,38 @@
+#include "engine/records.h"
+#include "store/catalogue.h"
+#include "store/program_folder.h"
+#include "ui/main/quillon_window.h"
+#include "ui/platform/desktop_hooks.h"
+#include "ui/platform/message_notifier.h"
+#include "ui/platform/single_instance.h"
+#include "ui/widgets/quillon_style.h"
+
+#include <QApplication>
+
+#include <filesystem>
+
+int main(int argc, char* argv[])
+{
+    using namespace quillon;
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillon"));
+    QApplication::setApplicationVersion(QStringLiteral(QUILLON_VERSION));
+
+    const store::ProgramFolder folder(QApplication::applicationFilePath().toStdString());
+    const ui::SingleInstance instance(folder.Path());
+    if (instance.IsSecondCopy()) {
+        return 0;
+    }
+    ui::QuillonStyle::Install(application);
+
+    engine::AntennaSystems systems;
+    const store::Catalogue catalogue(folder);
+    ui::DesktopHooks hooks;
+    ui::MessageNotifier notifier;
+    ui::Quillon window({systems, hooks, notifier, catalogue});
+    notifier.SetOwner(&window);
+    window.Load();
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,171 @@
+#include "ui/main/antenna_frame.h"
+
+#include "engine/bands.h"
+#include "engine/mask.h"
+#include "engine/number_text.h"
+#include "ui/main/catalogue_text.h"
+#include "ui/main/list_group.h"
+#include "ui/main/system_port.h"
+#include "ui/main/typed_number.h"
+#include "ui/widgets/object_names.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quillon::ui {
+
+namespace {
+
+constexpr std::string_view kBandFrequencyMask = "###0.000";
+constexpr qsizetype kModelCharacters = 16;
+
+QString FrameName(engine::SystemId system)
+{
+    return system == engine::SystemId::One ? QStringLiteral("FrameSystemOneAntenna")
+                                           : QStringLiteral("FrameSystemTwoAnt");
+}
+
+} // namespace
+
+AntennaFrame::AntennaFrame(engine::SystemId system, Workspace& workspace, SystemPort& port, QWidget* parent)
+    : InputFrame(QStringLiteral("Choose Brand && Model of System %1 Antenna").arg(Number(system)), system, workspace,
+                 parent)
+    , m_port(port)
+    , m_lists(NewLists(ListCount, this))
+    , m_line(new ForceLine(2, 1, this))
+{
+    Name();
+    LayOut();
+    m_lists[Brand]->SetNext(m_lists[Model]);
+    m_lists[Model]->SetNext(m_lists[Band]);
+    connect(m_lists[Brand], &CatalogueListBox::Chosen, this, [this] { cboAntenna_Click(Brand); });
+    connect(m_lists[Model], &CatalogueListBox::Chosen, this, [this] { cboAntenna_Click(Model); });
+    connect(m_lists[Band], &CatalogueListBox::Chosen, this, [this] { cboAntenna_Click(Band); });
+}
+
+void AntennaFrame::Name()
+{
+    setObjectName(FrameName(System()));
+    NameLists(m_lists, SpelledName("cboSystem%1Antenna", System()));
+    m_lists[Brand]->setAccessibleName(tr("System %1 antenna brand").arg(Number(System())));
+    m_lists[Model]->setAccessibleName(tr("System %1 antenna model").arg(Number(System())));
+    m_lists[Band]->setAccessibleName(tr("System %1 antenna band").arg(Number(System())));
+
+    m_line->Held(0)->setObjectName(NameFor("lblAntennaBrand", System()));
+    m_line->Held(1)->setObjectName(NameFor("lblAntennaModel", System()));
+    m_line->Fact(0)->setObjectName(NameFor("lblAntennaBand", System()));
+}
+
+void AntennaFrame::LayOut()
+{
+    setLayout(ListColumn({tr("Brand"), tr("Model"), tr("Band")}, m_lists, m_line));
+}
+
+void AntennaFrame::SetMakers(const QList<CatalogueEntry>& makers)
+{
+    m_lists[Brand]->Refill(makers);
+}
+
+void AntennaFrame::LoadAntennas(const QByteArray& maker)
+{
+    m_lists[Model]->Fill(SectionEntries(Work().Catalogue().LoadAntennas(maker.toStdString())));
+}
+
+void AntennaFrame::LoadAntennaGain(const QByteArray& maker, const QByteArray& model)
+{
+    const store::Catalogue& catalogue = Work().Catalogue();
+    m_lists[Band]->Fill(
+        SectionEntries(catalogue.LoadAntennaGain(maker.toStdString(), model.toStdString(), Work().Bands())));
+}
+
+void AntennaFrame::SetListsEnabled(bool enabled)
+{
+    EnableLists(m_lists, enabled);
+}
+
+QList<QWidget*> AntennaFrame::TabOrder() const
+{
+    return {m_lists[Brand], m_lists[Model], m_lists[Band]};
+}
+
+void AntennaFrame::cboAntenna_Click(int index)
+{
+    switch (index) {
+    case Brand:
+        return BrandChosen();
+    case Model:
+        return ModelChosen();
+    default:
+        return BandChosen();
+    }
+}
+
+void AntennaFrame::BrandChosen()
+{
+    m_lists[Model]->Empty();
+    LoadAntennas(m_lists[Brand]->ChosenName());
+    Data().AntennaBrand = RecordText(m_lists[Brand]->currentText());
+    m_line->Held(0)->setText(m_lists[Brand]->currentText());
+    m_port.SetFrequencyFollowsBand(false);
+    Work().RefreshData(System());
+}
+
+void AntennaFrame::ModelChosen()
+{
+    m_lists[Band]->Empty();
+    LoadAntennaGain(m_lists[Brand]->ChosenName(), m_lists[Model]->ChosenName());
+    Data().AntennaModel = RecordText(m_lists[Model]->currentText().left(kModelCharacters));
+    m_line->Held(1)->setText(SectionText(Data().AntennaModel.Trimmed()));
+    Work().RefreshData(System());
+}
+
+void AntennaFrame::BandChosen()
+{
+    if (!m_lists[Brand]->HasChoice() || !m_lists[Model]->HasChoice() || !m_lists[Band]->HasChoice()) {
+        return;
+    }
+    if (Work().Attempt(System(), [this] { TakeBand(); })) {
+        m_lists[Band]->ClearMark();
+    } else {
+        m_lists[Band]->Mark(TooLarge(m_lists[Band]->currentText()));
+    }
+}
+
+void AntennaFrame::TakeBand()
+{
+    const std::string maker = m_lists[Brand]->ChosenName().toStdString();
+    const std::string model = m_lists[Model]->ChosenName().toStdString();
+    Work().Catalogue().LoadAntennaGain(maker, model, Work().Bands());
+
+    Data().UseAntennaList = engine::kTrue;
+    Data().GainType = Work().Catalogue().LoadAntennaGainType(maker, model);
+    Data().AntennaGain = engine::GainToDBd(GainOfBand(), Data().GainType);
+    Work().Results(System()).AntennaGainDBd = Data().AntennaGain;
+    const QString gain = Work().Shortest(Data().AntennaGain);
+    m_line->Fact(0)->setText(QStringLiteral("Gain = %1 dbd").arg(gain));
+
+    Data().Frequency = engine::RoundWithMask(engine::FrequencyForBand(m_lists[Band]->ChosenName().toStdString()),
+                                             kBandFrequencyMask);
+    m_port.ShowFrequency(Data().Frequency, kBandFrequencyMask);
+    m_port.ShowAntennaStatus(QStringLiteral("%1 Antenna").arg(gain));
+    if (Data().UseCoaxList != engine::kFalse) {
+        m_port.RunCoaxTypeAgain();
+    }
+    m_port.SetFrequencyFollowsBand(true);
+    Work().RefreshData(System());
+}
+
+float AntennaFrame::GainOfBand() const
+{
+    const std::string band = m_lists[Band]->ChosenName().toStdString();
+    const auto* const suffix = std::ranges::find_if(
+        store::kBandSuffixes, [&](std::string_view name) { return std::string(name) + " Meters" == band; });
+    if (suffix == store::kBandSuffixes.end()) {
+        return 0;
+    }
+    const auto column = static_cast<std::size_t>(suffix - store::kBandSuffixes.begin());
+    return engine::NumberFromText(Work().Bands().at(column).gain);
+}
+
+} // namespace quillon::ui

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/main/force_line.h"
+#include "ui/main/input_frame.h"
+#include "ui/widgets/catalogue_list_box.h"
+
+namespace quillon::ui {
+
+class SystemPort;
+
+/// Choice of one system's antenna: brand, model and band.
+class AntennaFrame : public InputFrame
+{
+    Q_OBJECT
+
+public:
+    enum List { Brand, Model, Band, ListCount };
+
+    AntennaFrame(engine::SystemId system, Workspace& workspace, SystemPort& port, QWidget* parent = nullptr);
+
+    /// Fills the brand list, keeping what is chosen.
+    void SetMakers(const QList<CatalogueEntry>& makers);
+    /// Adds a maker's models to the model list.
+    void LoadAntennas(const QByteArray& maker);
+    /// Adds a model's bands to the band list.
+    void LoadAntennaGain(const QByteArray& maker, const QByteArray& model);
+    void cboAntenna_Click(int index);
+    void SetListsEnabled(bool enabled);
+    [[nodiscard]] CatalogueListBox* FirstList() const { return m_lists[Brand]; }
+    [[nodiscard]] QList<QWidget*> TabOrder() const;
+
+private:
+    void Name();
+    void LayOut();
+    void BrandChosen();
+    void ModelChosen();
+    void BandChosen();
+    void TakeBand();
+    [[nodiscard]] float GainOfBand() const;
+
+    SystemPort& m_port;
+    QList<CatalogueListBox*> m_lists;
+    ForceLine* m_line;
+};
+
+} // namespace quillon::ui

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/main/workspace.h"
+#include "ui/widgets/number_box.h"
+#include "ui/widgets/titled_frame.h"
+
+#include <functional>
+
+namespace quillon::ui {
+
+/// A frame of inputs of one system.
+class InputFrame : public TitledFrame
+{
+    Q_OBJECT
+
+public:
+    InputFrame(const QString& title, engine::SystemId system, Workspace& workspace, QWidget* parent);
+
+    [[nodiscard]] engine::SystemId System() const noexcept { return m_system; }
+
+protected:
+    [[nodiscard]] Workspace& Work() const noexcept { return m_workspace; }
+    [[nodiscard]] engine::SystemData& Data() const { return m_workspace.Data(m_system); }
+
+    /// Takes a box's text over as a number and computes anew. A text that is no number, or one that cannot be computed
+    /// with, changes nothing and marks the box; an empty text stores nothing.
+    void TakeOver(NumberBox& box, const std::function<void(float)>& store);
+
+    /// Stores a change and computes anew; marks the box when it cannot be computed with.
+    void Compute(NumberBox& box, const std::function<void()>& change);
+
+    /// Writes a box's text and has its change handler run once, also when the text stays the same.
+    static void WriteBox(NumberBox& box, const QString& text, const std::function<void()>& changeHandler);
+
+private:
+    engine::SystemId m_system;
+    Workspace& m_workspace;
+};
+
+} // namespace quillon::ui

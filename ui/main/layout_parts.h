@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QHBoxLayout;
+class QLabel;
+class QWidget;
+
+namespace quillon::ui {
+
+/// A box that grows, and its spin controls right of it.
+[[nodiscard]] QHBoxLayout* FieldRow(const QList<QWidget*>& widgets);
+
+/// Quiet label of an input, its buddy: the way to the input for screen readers.
+[[nodiscard]] QLabel* FieldLabel(const QString& text, QWidget* buddy, QWidget* parent);
+
+} // namespace quillon::ui

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "engine/calculations.h"
+#include "ui/main/antenna_gain_frame.h"
+#include "ui/main/coax_loss_frame.h"
+#include "ui/main/results_frame.h"
+#include "ui/main/system_column.h"
+#include "ui/main/workspace.h"
+
+#include <QMainWindow>
+
+namespace quillon::ui {
+
+/// What the main window is built on; made where the program starts, outlives the window.
+struct QuillonParts {
+    engine::AntennaSystems& systems;
+    engine::EngineHooks& hooks;
+    engine::Notifier& notifier;
+    const store::Catalogue& catalogue;
+};
+
+/// The main window: the inputs of both antenna systems and, between them, their results.
+class Quillon : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit Quillon(const QuillonParts& parts, QWidget* parent = nullptr);
+
+    /// Runs the start-up sequence: fills tables and lists and sets both systems to their defaults. Once per window.
+    void Load();
+    /// Whether the start-up sequence is finished.
+    [[nodiscard]] bool FormLoaded() const noexcept { return m_formLoaded; }
+
+    /// Computes a system anew and shows it. @throws std::out_of_range for a number other than 1 and 2.
+    void RefreshData(int system);
+
+    /// Fills the antenna brand lists of both systems, keeping what is chosen.
+    void LoadAntennaMakers();
+    /// Fills the coax brand lists of both systems, keeping what is chosen.
+    void LoadCableMakers();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Wire();
+    void StartFlags();
+    void StartSystems();
+    void FitFrameTitles();
+
+    engine::AntennaSystems& m_systems;
+    QWidget* m_content;
+    ResultsFrame* m_results;
+    engine::Calculations m_calculations;
+    Workspace m_workspace;
+    engine::PerSystem<SystemColumn*> m_columns;
+    CoaxLossFrame* m_coaxLoss;
+    AntennaGainFrame* m_antennaGain;
+    bool m_formLoaded = false;
+};
+
+} // namespace quillon::ui

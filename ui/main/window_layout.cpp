@@ -1,0 +1,172 @@
+#include "ui/main/window_layout.h"
+
+#include "ui/main/antenna_gain_frame.h"
+#include "ui/main/coax_loss_frame.h"
+#include "ui/main/system_column.h"
+#include "ui/widgets/card.h"
+#include "ui/widgets/looks.h"
+
+#include <QGridLayout>
+#include <QMainWindow>
+#include <QScrollArea>
+
+namespace quillon::ui {
+
+namespace {
+
+/// Rows of the window's grid; the rows between frames hold hairlines.
+enum Row {
+    TopPadding,
+    PowerRow,
+    FrequencyRow = 3,
+    CoaxRow = 5,
+    CoaxDataRow = 7,
+    AntennaRow = 9,
+    BottomPadding,
+    RowCount,
+};
+constexpr int kResultsColumn = 1;
+constexpr int kSystemStretch = 20;
+constexpr int kResultsStretch = 29;
+
+// Content grows with the window so far; beyond that a maximised window would tear it apart.
+constexpr double kStartHeight = 1.12;
+constexpr double kLargestWidth = 1.25;
+constexpr double kLargestHeight = 1.35;
+
+int GridColumn(engine::SystemId system)
+{
+    return system == engine::SystemId::One ? 0 : 2;
+}
+
+void AddCard(QGridLayout& grid, int column, QWidget& content)
+{
+    auto* card = new Card(Card::Kind::Card, &content);
+    card->lower();
+    grid.addWidget(card, TopPadding, column, RowCount, 1);
+}
+
+QVBoxLayout* Inset(const QList<QWidget*>& widgets, int margin)
+{
+    auto* column = new QVBoxLayout;
+    column->setContentsMargins(margin, 0, margin, 0);
+    column->setSpacing(2 * BaseUnit());
+    for (QWidget* widget : widgets) {
+        column->addWidget(widget);
+    }
+    return column;
+}
+
+QLayout* PowerAndVSWR(const SystemColumn& system, int margin)
+{
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(margin, 0, margin, 0);
+    row->setSpacing(3 * BaseUnit());
+    row->addWidget(system.Power(), 1);
+    row->addWidget(system.VSWR(), 1);
+    return row;
+}
+
+void AddHairlines(QGridLayout& grid, int column, QWidget& content)
+{
+    for (const int row : {PowerRow + 1, FrequencyRow + 1, CoaxRow + 1, CoaxDataRow + 1}) {
+        grid.addLayout(Inset({new Hairline(&content)}, 2 * BaseUnit()), row, column, Qt::Alignment());
+    }
+}
+
+void AddSystem(QGridLayout& grid, const WindowParts& parts, engine::SystemId system, QWidget& content)
+{
+    const int column = GridColumn(system);
+    const int margin = 5 * BaseUnit() / 2;
+    const SystemColumn& frames = *parts.columns[system];
+    QList<QWidget*> coaxData{frames.CoaxData()};
+    QList<QWidget*> antenna{frames.Antenna()};
+    if (system == engine::SystemId::One) {
+        coaxData.append(parts.coaxLoss);
+        antenna.append(parts.antennaGain);
+    }
+    AddCard(grid, column, content);
+    AddHairlines(grid, column, content);
+    grid.addLayout(PowerAndVSWR(frames, margin), PowerRow, column);
+    grid.addLayout(Inset({frames.Frequency()}, margin), FrequencyRow, column);
+    grid.addLayout(Inset({frames.Coax()}, margin), CoaxRow, column);
+    grid.addLayout(Inset(coaxData, margin), CoaxDataRow, column);
+    grid.addLayout(Inset(antenna, margin), AntennaRow, column);
+    grid.setColumnStretch(column, kSystemStretch);
+}
+
+void AddResults(QGridLayout& grid, ResultsFrame& results, QWidget& content)
+{
+    AddCard(grid, kResultsColumn, content);
+    auto* inset = Inset({&results}, 2 * BaseUnit());
+    inset->setContentsMargins(2 * BaseUnit(), 2 * BaseUnit(), 2 * BaseUnit(), BaseUnit());
+    grid.addLayout(inset, TopPadding, kResultsColumn, RowCount, 1);
+    grid.setColumnStretch(kResultsColumn, kResultsStretch);
+}
+
+void SpaceRows(QGridLayout& grid)
+{
+    for (const int row : {TopPadding, BottomPadding}) {
+        grid.setRowMinimumHeight(row, 2 * BaseUnit());
+    }
+    for (const int row : {PowerRow + 1, FrequencyRow + 1, CoaxRow + 1, CoaxDataRow + 1}) {
+        grid.setRowMinimumHeight(row, 2 * BaseUnit());
+        grid.setRowStretch(row, 1);
+    }
+}
+
+void ScrollContent(QMainWindow& window, QWidget& content)
+{
+    auto* area = new QScrollArea(&window);
+    area->setWidgetResizable(true);
+    area->setAlignment(Qt::AlignCenter);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(&content);
+    window.setCentralWidget(area);
+
+    const QSize hint = content.sizeHint();
+    content.setMaximumSize(qRound(kLargestWidth * hint.width()), qRound(kLargestHeight * hint.height()));
+    window.resize(hint.width(), qRound(kStartHeight * hint.height()));
+}
+
+} // namespace
+
+void LayOutWindow(QMainWindow& window, QWidget& content, const WindowParts& parts)
+{
+    auto* grid = new QGridLayout(&content);
+    grid->setContentsMargins(2 * BaseUnit(), 2 * BaseUnit(), 2 * BaseUnit(), 2 * BaseUnit());
+    grid->setHorizontalSpacing(2 * BaseUnit());
+    grid->setVerticalSpacing(0);
+    for (const engine::SystemId system : engine::kBothSystems) {
+        AddSystem(*grid, parts, system, content);
+    }
+    AddResults(*grid, *parts.results, content);
+    SpaceRows(*grid);
+    parts.coaxLoss->hide();
+    parts.antennaGain->hide();
+    ScrollContent(window, content);
+}
+
+void SetWindowTabOrder(const WindowParts& parts)
+{
+    QList<QWidget*> order;
+    for (const engine::SystemId system : engine::kBothSystems) {
+        const SystemColumn& column = *parts.columns[system];
+        const bool typed = system == engine::SystemId::One;
+        order << column.Power()->TabOrder() << column.VSWR()->TabOrder() << column.Frequency()->TabOrder()
+              << column.Coax()->TabOrder() << column.CoaxData()->TabOrder();
+        if (typed) {
+            order << parts.coaxLoss->TabOrder();
+        }
+        order << column.Antenna()->TabOrder();
+        if (typed) {
+            order << parts.antennaGain->TabOrder();
+        }
+    }
+    for (qsizetype next = 1; next < order.size(); ++next) {
+        QWidget::setTabOrder(order[next - 1], order[next]);
+    }
+}
+
+} // namespace quillon::ui

@@ -1,0 +1,51 @@
+#include "ui/main/workspace.h"
+
+#include "engine/arithmetic_error.h"
+#include "engine/mask.h"
+#include "engine/number_text.h"
+
+#include <utility>
+
+namespace quillon::ui {
+
+Workspace::Workspace(engine::AntennaSystems& systems, engine::Calculations& calculations,
+                     const store::Catalogue& catalogue, engine::Notifier& notifier, QLocale locale)
+    : m_systems(systems)
+    , m_calculations(calculations)
+    , m_catalogue(catalogue)
+    , m_notifier(notifier)
+    , m_locale(std::move(locale))
+    , m_separator(m_locale.decimalPoint().toStdString())
+{
+}
+
+void Workspace::RefreshData(engine::SystemId system)
+{
+    m_calculations.RefreshData(Number(system));
+}
+
+bool Workspace::Attempt(engine::SystemId system, const std::function<void()>& change)
+{
+    const engine::SystemData data = Data(system);
+    const engine::SystemResults results = Results(system);
+    try {
+        change();
+        return true;
+    } catch (const engine::ArithmeticError&) {
+        Data(system) = data;
+        Results(system) = results;
+        return false;
+    }
+}
+
+QString Workspace::Masked(float value, std::string_view mask) const
+{
+    return QString::fromStdString(engine::FormatWithMask(value, mask, m_separator));
+}
+
+QString Workspace::Shortest(float value) const
+{
+    return QString::fromStdString(engine::ShortestText(value, m_separator));
+}
+
+} // namespace quillon::ui
