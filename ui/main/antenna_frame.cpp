@@ -145,8 +145,8 @@ void AntennaFrame::TakeBand()
     const QString gain = Work().Shortest(Data().AntennaGain);
     m_line->Fact(0)->setText(QStringLiteral("Gain = %1 dbd").arg(gain));
 
-    Data().Frequency = engine::RoundWithMask(engine::FrequencyForBand(m_lists[Band]->ChosenName().toStdString()),
-                                             kBandFrequencyMask);
+    Data().Frequency =
+        engine::RoundWithMask(engine::FrequencyForBand(m_lists[Band]->ChosenName().toStdString()), kBandFrequencyMask);
     m_port.ShowFrequency(Data().Frequency, kBandFrequencyMask);
     m_port.ShowAntennaStatus(QStringLiteral("%1 Antenna").arg(gain));
     if (Data().UseCoaxList != engine::kFalse) {

@@ -26,7 +26,9 @@ public:
     void LoadAntennaGain(const QByteArray& maker, const QByteArray& model);
     void cboAntenna_Click(int index);
     void SetListsEnabled(bool enabled);
+
     [[nodiscard]] CatalogueListBox* FirstList() const { return m_lists[Brand]; }
+
     [[nodiscard]] QList<QWidget*> TabOrder() const;
 
 private:

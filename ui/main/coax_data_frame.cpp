@@ -75,8 +75,7 @@ void CoaxDataFrame::TakeConnectorPosition()
 {
     const int position = m_connectorSpin->value();
     Data().Connectors = static_cast<std::int16_t>(position);
-    WriteBox(*m_connectors, QString::number(engine::SpinToConnectors(position)),
-             [this] { txtNumConnectors_Change(); });
+    WriteBox(*m_connectors, QString::number(engine::SpinToConnectors(position)), [this] { txtNumConnectors_Change(); });
 }
 
 QList<QWidget*> CoaxDataFrame::TabOrder() const

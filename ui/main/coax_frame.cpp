@@ -16,8 +16,7 @@ namespace quillon::ui {
 namespace {
 
 const QString kJacketTip = QStringLiteral("Outside diameter of cable jacket measured in inches.");
-const QString kImpedanceTip =
-    QStringLiteral("Impedance / Physical length required / electrical wavelength.");
+const QString kImpedanceTip = QStringLiteral("Impedance / Physical length required / electrical wavelength.");
 
 } // namespace
 

@@ -25,8 +25,8 @@ CoaxLossFrame::CoaxLossFrame(Workspace& workspace, QWidget* parent)
     : InputFrame(QStringLiteral("Coax dB Loss/100 Ft"), engine::SystemId::One, workspace, parent)
     , m_text(new NumberBox(5, this))
     , m_spin(new SpinControl(kCoaxLoss, SpinLook::Fine, this))
-    , m_options(new OptionPair(QStringLiteral("optCoaxCable"), QStringLiteral("User Data"),
-                               QStringLiteral("Coax Data"), this))
+    , m_options(new OptionPair(QStringLiteral("optCoaxCable"), QStringLiteral("User Data"), QStringLiteral("Coax Data"),
+                               this))
 {
     Name();
     LayOut();

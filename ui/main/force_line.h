@@ -6,7 +6,8 @@
 
 namespace quillon::ui {
 
-/// The line below a group of lists: at its left what the record holds, at its right the facts that came with the choice.
+/// The line below a group of lists: at its left what the record holds, at its right the facts that came with the
+/// choice.
 class ForceLine : public QWidget
 {
     Q_OBJECT
@@ -17,6 +18,7 @@ public:
     ForceLine(int held, int facts, QWidget* parent);
 
     [[nodiscard]] QuietLabel* Held(int place) const { return m_held.at(place); }
+
     [[nodiscard]] QuietLabel* Fact(int place) const { return m_facts.at(place); }
 
 private:

@@ -20,6 +20,7 @@ public:
 
 protected:
     [[nodiscard]] Workspace& Work() const noexcept { return m_workspace; }
+
     [[nodiscard]] engine::SystemData& Data() const { return m_workspace.Data(m_system); }
 
     /// Takes a box's text over as a number and computes anew. A text that is no number, or one that cannot be computed

@@ -18,7 +18,9 @@ public:
     OptionPair(const QString& arrayName, const QString& userCaption, const QString& dataCaption, QWidget* parent);
 
     [[nodiscard]] QHBoxLayout* Row() const;
+
     [[nodiscard]] QRadioButton* User() const { return m_user; }
+
     [[nodiscard]] QRadioButton* Catalogue() const { return m_catalogue; }
 
 signals:

@@ -3,6 +3,8 @@
 #include "ui/main/catalogue_text.h"
 #include "ui/main/window_layout.h"
 
+#include <QEvent>
+
 namespace quillon::ui {
 
 Quillon::Quillon(const QuillonParts& parts, QWidget* parent)

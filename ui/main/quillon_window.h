@@ -12,7 +12,8 @@
 namespace quillon::ui {
 
 /// What the main window is built on; made where the program starts, outlives the window.
-struct QuillonParts {
+struct QuillonParts
+{
     engine::AntennaSystems& systems;
     engine::EngineHooks& hooks;
     engine::Notifier& notifier;
@@ -29,6 +30,7 @@ public:
 
     /// Runs the start-up sequence: fills tables and lists and sets both systems to their defaults. Once per window.
     void Load();
+
     /// Whether the start-up sequence is finished.
     [[nodiscard]] bool FormLoaded() const noexcept { return m_formLoaded; }
 

@@ -8,7 +8,8 @@
 namespace quillon::ui {
 
 /// One row of the results panel, from top to bottom.
-struct ResultRow {
+struct ResultRow
+{
     engine::ResultLabel label;
     const char* caption;
     const char* captionName;

@@ -17,6 +17,7 @@ namespace {
 
 /// Columns of the panel: marker, value, caption, value, marker.
 enum Column { MarkerOne, ValueOne, Caption, ValueTwo, MarkerTwo, ColumnCount };
+
 constexpr int kStatusRow = 2 * engine::kResultLabelCount;
 constexpr int kRowStretch = 10;
 constexpr int kTotalStretch = 14;

@@ -34,7 +34,8 @@ public:
     void ShowCoaxStatus(engine::SystemId system, const QString& text);
 
 private:
-    struct Row {
+    struct Row
+    {
         engine::PerSystem<ValueLabel*> values;
         engine::PerSystem<ResultMarker*> markers;
     };

@@ -29,12 +29,19 @@ public:
     void StartInputs();
 
     [[nodiscard]] engine::SystemId System() const noexcept { return m_system; }
+
     [[nodiscard]] XmitPowerFrame* Power() const { return m_power; }
+
     [[nodiscard]] VSWRFrame* VSWR() const { return m_vswr; }
+
     [[nodiscard]] FrequencyFrame* Frequency() const { return m_frequency; }
+
     [[nodiscard]] CoaxFrame* Coax() const { return m_coax; }
+
     [[nodiscard]] CoaxDataFrame* CoaxData() const { return m_coaxData; }
+
     [[nodiscard]] AntennaFrame* Antenna() const { return m_antenna; }
+
     [[nodiscard]] QList<TitledFrame*> Frames() const;
 
 private:

@@ -10,7 +10,8 @@ namespace quillon::ui {
 
 /// What a person's text stands for: a value, or the reason why it stands for none, in words for the person.
 template <class T>
-struct Typed {
+struct Typed
+{
     std::optional<T> value;
     QString problem;
 };

@@ -25,6 +25,7 @@ enum Row {
     BottomPadding,
     RowCount,
 };
+
 constexpr int kResultsColumn = 1;
 constexpr int kSystemStretch = 20;
 constexpr int kResultsStretch = 29;

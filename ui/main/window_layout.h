@@ -13,7 +13,8 @@ class ResultsFrame;
 class SystemColumn;
 
 /// The frames of the main window.
-struct WindowParts {
+struct WindowParts
+{
     engine::PerSystem<SystemColumn*> columns;
     ResultsFrame* results;
     CoaxLossFrame* coaxLoss;

@@ -20,20 +20,27 @@ public:
               engine::Notifier& notifier, QLocale locale);
 
     [[nodiscard]] engine::SystemData& Data(engine::SystemId system) { return m_systems.Data[system]; }
+
     [[nodiscard]] engine::SystemResults& Results(engine::SystemId system) { return m_systems.Results[system]; }
+
     [[nodiscard]] engine::SystemState& State(engine::SystemId system) { return m_systems.State[system]; }
+
     /// Figures of the cable loaded last, for whichever system.
     [[nodiscard]] std::array<float, 9>& CoaxSpec() { return m_systems.CoaxSpec; }
+
     /// The model loaded last, for whichever system.
     [[nodiscard]] store::BandTable& Bands() { return m_bands; }
+
     [[nodiscard]] const store::Catalogue& Catalogue() const { return m_catalogue; }
+
     [[nodiscard]] engine::Notifier& Notifier() { return m_notifier; }
+
     [[nodiscard]] const QLocale& Locale() const { return m_locale; }
 
     void RefreshData(engine::SystemId system);
 
-    /// Runs a change of a system's inputs. When it cannot be computed with, the system's inputs and results are put back
-    /// as they were. @return whether the change stands.
+    /// Runs a change of a system's inputs. When it cannot be computed with, the system's inputs and results are put
+    /// back as they were. @return whether the change stands.
     [[nodiscard]] bool Attempt(engine::SystemId system, const std::function<void()>& change);
 
     /// Number texts as boxes and labels show them, with the locale's separator.
