@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <stdexcept>
 
 namespace quillon::engine {
 
@@ -30,8 +31,11 @@ const std::array<std::string_view, kBandCount>& BandNames() noexcept
 
 BandFrequencyRow BandFrequency(int position)
 {
+    if (position < 0 || position >= kBandCount) {
+        throw std::out_of_range("a band's position is 0 to 13");
+    }
     const int index = kBandCount - 1 - position;
-    return {kFrequencies.at(static_cast<std::size_t>(index)), index};
+    return {kFrequencies[static_cast<std::size_t>(index)], index};
 }
 
 float FrequencyForBand(std::string_view name)

@@ -61,9 +61,9 @@ class SystemState
 {
 public:
     /// @param number  1 to 6. @throws std::out_of_range for any other number.
-    [[nodiscard]] Boolean Flag(int number) const { return m_flags.at(static_cast<std::size_t>(number - 1)); }
+    [[nodiscard]] Boolean Flag(int number) const { return m_flags.at(static_cast<std::size_t>(number) - 1); }
 
-    void SetFlag(int number, Boolean value) { m_flags.at(static_cast<std::size_t>(number - 1)) = value; }
+    void SetFlag(int number, Boolean value) { m_flags.at(static_cast<std::size_t>(number) - 1) = value; }
 
     [[nodiscard]] bool operator==(const SystemState&) const = default;
 
