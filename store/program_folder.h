@@ -14,9 +14,23 @@ public:
     explicit ProgramFolder(const std::filesystem::path& executable);
 
     [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_path; }
+
     [[nodiscard]] const std::string& ExecutableName() const noexcept { return m_executableName; }
+
     [[nodiscard]] std::filesystem::path AntennaFolder() const { return m_path / "Antennas"; }
+
     [[nodiscard]] std::filesystem::path CoaxFolder() const { return m_path / "Coax"; }
+
+    /// Index of the antenna catalogue files.
+    [[nodiscard]] std::filesystem::path AntennaIndex() const { return AntennaFolder() / "ANTENNAS.ZEP"; }
+
+    /// Catalogue file of a maker. @param maker  a name without FileNameFault
+    [[nodiscard]] std::filesystem::path AntennaFile(std::string_view maker) const;
+    [[nodiscard]] std::filesystem::path CoaxFile(std::string_view maker) const;
+
+    /// File of a data set by its exact name: "Systems", "Antennas" or "Coax".
+    /// @return for any other name the program folder itself, with a separator at its end.
+    [[nodiscard]] std::filesystem::path DataSetPath(std::string_view name) const;
 
 private:
     std::filesystem::path m_path;

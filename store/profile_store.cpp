@@ -1,0 +1,167 @@
+#include "store/profile_store.h"
+
+#include "store/file_names.h"
+#include "store/safe_write.h"
+
+#include <algorithm>
+#include <chrono>
+#include <stdexcept>
+#include <utility>
+
+namespace quillon::store {
+namespace {
+
+constexpr std::size_t kMostDocuments = 8;
+constexpr std::size_t kMostBytes = kLargestFile;
+
+/// File times move in steps of the kernel's timer: two changes within one step leave the same time.
+bool IsSettled(const FileStamp& stamp)
+{
+    using namespace std::chrono;
+    constexpr nanoseconds kLongestStep = milliseconds(20);
+    const nanoseconds now = system_clock::now().time_since_epoch();
+    return nanoseconds(stamp.changed) + kLongestStep < now;
+}
+
+} // namespace
+
+ProfileStore::ProfileStore()
+    : m_calls(m_systemCalls)
+{
+}
+
+ProfileStore::ProfileStore(FileCalls& calls)
+    : m_calls(calls)
+{
+}
+
+const PrivateProfile& ProfileStore::Read(const std::filesystem::path& file)
+{
+    const Location location = Locate(file);
+    if (const auto batch = m_batches.find(location.path); batch != m_batches.end()) {
+        return ReadInBatch(batch->second, location);
+    }
+    if (location.status.state != FileState::Regular) {
+        return m_nothing;
+    }
+    std::optional<Document> document = Take(location);
+    return document ? Hold(std::move(*document)) : m_nothing;
+}
+
+bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& edit)
+{
+    const Location location = Locate(file);
+    const auto batch = m_batches.find(location.path);
+    if (batch == m_batches.end()) {
+        return Rewrite(location, {&edit, 1});
+    }
+    batch->second.edits.push_back(edit);
+    if (batch->second.document) {
+        Apply(batch->second.document->profile, edit);
+    }
+    return location.status.state != FileState::Refused;
+}
+
+void ProfileStore::CreateIfMissing(const std::filesystem::path& file)
+{
+    if (!NameExists(ResolveCase(file))) {
+        CreateEmptyFile(m_calls, file);
+    }
+}
+
+ProfileStore::Location ProfileStore::Locate(const std::filesystem::path& file) const
+{
+    const FileStatus status = InspectFile(m_calls, file.c_str());
+    if (status.state != FileState::Missing) {
+        return {file.string(), status};
+    }
+    const std::filesystem::path spelled = ResolveCase(file);
+    return {spelled.string(), InspectFile(m_calls, spelled.c_str())};
+}
+
+std::optional<ProfileStore::Document> ProfileStore::Take(const Location& location)
+{
+    Document document;
+    const auto held = std::find_if(m_held.begin(), m_held.end(),
+                                   [&location](const Document& candidate) { return candidate.path == location.path; });
+    if (held != m_held.end()) {
+        document = std::move(*held);
+        m_held.erase(held);
+        if (document.IsOf(location.status.stamp)) {
+            return document;
+        }
+    }
+    std::string bytes;
+    const FileStatus found = ReadFile(m_calls, location.path.c_str(), bytes);
+    if (found.state == FileState::Refused) {
+        return std::nullopt;
+    }
+    return Document{location.path, found.stamp, IsSettled(found.stamp), PrivateProfile(std::move(bytes))};
+}
+
+const PrivateProfile& ProfileStore::Hold(Document document)
+{
+    m_held.push_front(std::move(document));
+    std::size_t documents = 0;
+    std::size_t bytes = 0;
+    const auto isTooMuch = [&documents, &bytes](const Document& held) {
+        bytes += held.profile.Bytes().size();
+        return ++documents > kMostDocuments || (documents > 1 && bytes > kMostBytes);
+    };
+    m_held.erase(std::find_if(m_held.begin(), m_held.end(), isTooMuch), m_held.end());
+    return m_held.front().profile;
+}
+
+const PrivateProfile& ProfileStore::ReadInBatch(Batch& batch, const Location& location)
+{
+    if (!batch.document || !batch.document->IsOf(location.status.stamp)) {
+        batch.document = Take(location);
+        for (const ProfileEdit& edit : batch.edits) {
+            if (batch.document) {
+                Apply(batch.document->profile, edit);
+            }
+        }
+    }
+    return batch.document ? batch.document->profile : m_nothing;
+}
+
+bool ProfileStore::Rewrite(const Location& location, std::span<const ProfileEdit> edits)
+{
+    std::optional<Document> document = Take(location);
+    if (!document) {
+        return false;
+    }
+    bool isChanged = false;
+    for (const ProfileEdit& edit : edits) {
+        isChanged = Apply(document->profile, edit) || isChanged;
+    }
+    if (!isChanged) {
+        Hold(std::move(*document));
+        return true;
+    }
+    const std::string_view text = document->profile.Bytes();
+    return text.size() <= kLargestFile && ReplaceFile(m_calls, location.path, text);
+}
+
+std::string ProfileStore::BeginBatch(const std::filesystem::path& file)
+{
+    std::string path = Locate(file).path;
+    if (!m_batches.try_emplace(path).second) {
+        throw std::logic_error("a batch is open on " + path);
+    }
+    return path;
+}
+
+void ProfileStore::DropBatch(const std::string& path) noexcept
+{
+    m_batches.erase(path);
+}
+
+bool ProfileStore::CommitBatch(const std::string& path)
+{
+    const std::vector<ProfileEdit> edits = std::move(m_batches.at(path).edits);
+    m_batches.erase(path);
+    return Rewrite(Locate(path), edits);
+}
+
+} // namespace quillon::store

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "store/file_reader.h"
+#include "store/profile_edit.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <list>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quillon::store {
+
+/// Reads and writes data files, with the last few held in memory: as long as a file's stamp on disk stays the same it
+/// is not read again. A change from outside is seen at the next call. File names match without regard to letter case.
+class ProfileStore
+{
+public:
+    ProfileStore();
+    /// @param calls  must outlive the store.
+    explicit ProfileStore(FileCalls& calls);
+    ProfileStore(const ProfileStore&) = delete;
+    ProfileStore& operator=(const ProfileStore&) = delete;
+    ~ProfileStore() = default;
+
+    /// The file's document, empty for a file that is missing or cannot be read; with the edits of an open batch.
+    /// Valid until the next call on the store.
+    [[nodiscard]] const PrivateProfile& Read(const std::filesystem::path& file);
+
+    /// Changes a file on disk, or gathers the edit while a batch on the file is open. A file that would stay as it is
+    /// is not written, one that is missing is created.
+    /// @return false when the file could not be written; it then stands as before.
+    bool Edit(const std::filesystem::path& file, const ProfileEdit& edit);
+
+    /// Creates a file empty unless its name stands in the folder. @throws std::system_error when it cannot be created.
+    void CreateIfMissing(const std::filesystem::path& file);
+
+private:
+    friend class ProfileBatch;
+
+    struct Location
+    {
+        std::string path;
+        FileStatus status;
+    };
+
+    struct Document
+    {
+        std::string path;
+        FileStamp stamp;
+        bool isSettled = true; ///< false: a further change could have left the same stamp
+        PrivateProfile profile;
+
+        [[nodiscard]] bool IsOf(const FileStamp& now) const noexcept { return isSettled && stamp == now; }
+    };
+
+    struct Batch
+    {
+        std::vector<ProfileEdit> edits;
+        std::optional<Document> document; ///< the file with the edits, as far as somebody asked for it
+    };
+
+    [[nodiscard]] Location Locate(const std::filesystem::path& file) const;
+    [[nodiscard]] std::optional<Document> Take(const Location& location);
+    const PrivateProfile& Hold(Document document);
+    const PrivateProfile& ReadInBatch(Batch& batch, const Location& location);
+    [[nodiscard]] bool Rewrite(const Location& location, std::span<const ProfileEdit> edits);
+
+    std::string BeginBatch(const std::filesystem::path& file);
+    void DropBatch(const std::string& path) noexcept;
+    [[nodiscard]] bool CommitBatch(const std::string& path);
+
+    FileCalls m_systemCalls;
+    FileCalls& m_calls;
+    std::list<Document> m_held; ///< the one used last stands first
+    std::map<std::string, Batch> m_batches;
+    const PrivateProfile m_nothing;
+};
+
+} // namespace quillon::store

@@ -1,0 +1,98 @@
+#include "store/safe_write.h"
+
+#include "store/file_names.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <optional>
+#include <string>
+#include <system_error>
+
+namespace quillon::store {
+namespace {
+
+constexpr mode_t kNewFileMode = 0666; // less what the user's mask takes away
+constexpr mode_t kModeBits = 07777;
+
+bool WriteAll(FileCalls& calls, int descriptor, std::string_view text)
+{
+    while (!text.empty()) {
+        const ssize_t count = calls.Write(descriptor, text.data(), text.size());
+        if (count > 0) {
+            text.remove_prefix(static_cast<std::size_t>(count));
+        } else if (count == 0 || errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Sync(FileCalls& calls, int descriptor)
+{
+    int result = calls.Fsync(descriptor);
+    while (result != 0 && errno == EINTR) {
+        result = calls.Fsync(descriptor);
+    }
+    return result == 0;
+}
+
+/// Some file systems have no syncing of folders and say so; there is nothing to be lost on them.
+bool SyncFolder(FileCalls& calls, int descriptor)
+{
+    return Sync(calls, descriptor) || errno == EINVAL;
+}
+
+bool RemoveIfThere(FileCalls& calls, const std::string& path)
+{
+    return calls.Unlink(path.c_str()) == 0 || errno == ENOENT;
+}
+
+/// @param mode  mode that the file must get; none for a new file.
+bool WriteNewFile(FileCalls& calls, const std::string& path, std::string_view text, std::optional<mode_t> mode)
+{
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    OpenFile file(calls, path.c_str(), kFlags, mode.value_or(kNewFileMode));
+    return file && WriteAll(calls, file.Descriptor(), text) && (!mode || calls.Fchmod(file.Descriptor(), *mode) == 0) &&
+           Sync(calls, file.Descriptor()) && file.Close();
+}
+
+} // namespace
+
+bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text)
+{
+    const std::optional<std::filesystem::path> target = FollowLinks(file);
+    if (!target) {
+        return false;
+    }
+    std::optional<mode_t> mode;
+    struct stat status = {};
+    if (calls.Stat(target->c_str(), &status) == 0) {
+        if (!S_ISREG(status.st_mode) || calls.MayWrite(target->c_str()) != 0) {
+            return false;
+        }
+        mode = status.st_mode & kModeBits;
+    } else if (errno != ENOENT) {
+        return false;
+    }
+    const std::string temporary = target->parent_path() / ("." + target->filename().string() + ".tmp");
+    const std::filesystem::path folderPath = target->has_parent_path() ? target->parent_path() : ".";
+    OpenFile folder(calls, folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (!folder || !RemoveIfThere(calls, temporary)) {
+        return false;
+    }
+    if (!WriteNewFile(calls, temporary, text, mode) || calls.Rename(temporary.c_str(), target->c_str()) != 0) {
+        RemoveIfThere(calls, temporary);
+        return false;
+    }
+    return SyncFolder(calls, folder.Descriptor()) && folder.Close();
+}
+
+void CreateEmptyFile(FileCalls& calls, const std::filesystem::path& file)
+{
+    OpenFile created(calls, file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
+    if (!created || !created.Close()) {
+        throw std::system_error(errno, std::generic_category(), file.string());
+    }
+}
+
+} // namespace quillon::store
