@@ -12,6 +12,7 @@ class MessageNotifier : public engine::Notifier
 public:
     /// @param owner  window that the boxes belong to; may be null until there is one.
     explicit MessageNotifier(QWidget* owner = nullptr);
+
     void SetOwner(QWidget* owner) { m_owner = owner; }
 
     void Inform(std::string_view text, std::string_view title) override;

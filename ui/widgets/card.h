@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QWidget>
 
 namespace quillon::ui {
@@ -14,11 +15,21 @@ public:
 
     explicit Card(Kind kind, QWidget* parent = nullptr);
 
+    [[nodiscard]] Kind Shape() const noexcept { return m_kind; }
+
+    /// What lies inside the hairline, in the parent's coordinates: a tinted cell on a plate keeps to it.
+    [[nodiscard]] QPainterPath Inside() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    [[nodiscard]] double Radius() const;
+
     Kind m_kind;
 };
 
-/// Line of one pixel, in the hairline's colour.
+/// Line of one pixel, in the hairline's colour; in the middle when it is given more room.
 class Hairline : public QWidget
 {
     Q_OBJECT
@@ -26,6 +37,9 @@ class Hairline : public QWidget
 public:
     explicit Hairline(QWidget* parent = nullptr);
     [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace quillon::ui

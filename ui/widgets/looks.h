@@ -4,8 +4,6 @@
 #include <QFont>
 #include <QPalette>
 
-class QWidget;
-
 namespace quillon::ui {
 
 /// The length that all margins and gaps are multiples of: a quarter of the application font's line, at least 4 px.
@@ -14,11 +12,16 @@ namespace quillon::ui {
 /// The application font changed in size by a factor and in weight; no size is set absolutely anywhere.
 [[nodiscard]] QFont ScaledFont(double factor, QFont::Weight weight = QFont::Normal);
 
+/// A colour moved towards another one by a share of 0 to 1.
+[[nodiscard]] QColor Mixed(const QColor& color, const QColor& other, double share);
+
+/// Colours by palette role, the same whether or not the window has the focus.
 [[nodiscard]] bool IsDark(const QPalette& palette);
 [[nodiscard]] QColor CardColor(const QPalette& palette);
 [[nodiscard]] QColor HairlineColor(const QPalette& palette);
 [[nodiscard]] QColor OutlineColor(const QPalette& palette);
 [[nodiscard]] QColor EmptyMarkerColor(const QPalette& palette);
+[[nodiscard]] QColor FilledMarkerColor(const QPalette& palette);
 [[nodiscard]] QColor QuietColor(const QPalette& palette);
 [[nodiscard]] QColor BetterColor(const QPalette& palette);
 

@@ -4,7 +4,8 @@
 
 namespace quillon::ui {
 
-/// Plain-text label that elides what does not fit; text() stays whole. The quiet tone is for what explains, the normal one for facts.
+/// Plain-text label that elides what does not fit; text() stays whole. The quiet tone is for what explains, the normal
+/// one for facts.
 class QuietLabel : public QLabel
 {
     Q_OBJECT
@@ -17,8 +18,21 @@ public:
     /// Elide at the right when the layout gives less room than the text takes (else the label insists on its width).
     void SetElides(bool elides);
 
+    /// What is painted: the text, elided when it has to be.
+    [[nodiscard]] QString ShownText() const;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    void ApplyFont();
+    [[nodiscard]] int LineHeight() const;
+
     Tone m_tone;
+    double m_factor;
     bool m_elides = false;
 };
 

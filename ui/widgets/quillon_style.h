@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QPalette>
 #include <QProxyStyle>
 
 class QApplication;
@@ -14,6 +16,22 @@ class QuillonStyle : public QProxyStyle
 public:
     /// Puts the style over the application's when that is the built-in one.
     static void Install(QApplication& application);
+
+    using QProxyStyle::QProxyStyle;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+
+private:
+    enum class Edge { Outline, Hairline };
+
+    /// The palette that makes the built-in style draw an edge in our colour.
+    [[nodiscard]] QPalette Treated(const QPalette& palette, Edge edge) const;
+
+    mutable QHash<QPair<qint64, int>, QPalette> m_treated; ///< by the cache key of what it was made from
+    mutable int m_depth = 0;                               ///< above 0 while a treated control is being drawn
 };
 
 } // namespace quillon::ui

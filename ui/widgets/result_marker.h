@@ -18,13 +18,20 @@ public:
     ResultMarker(engine::SystemId system, MarkerSize size, QWidget* parent = nullptr);
 
     [[nodiscard]] bool IsFilled() const noexcept { return m_filled; }
+
     void SetFilled(bool filled);
     [[nodiscard]] QSize sizeHint() const override;
 
 signals:
     void FilledChanged(bool filled);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
 private:
+    [[nodiscard]] double Side() const;
+
     engine::SystemId m_system;
     MarkerSize m_size;
     bool m_filled = false;

@@ -2,11 +2,14 @@
 
 #include <QAbstractSlider>
 
+class QStyleOptionButton;
+
 namespace quillon::ui {
 
 /// Stored properties of a spin control. Positions count downwards: the upper arrow lowers the position, which raises
 /// the value shown.
-struct SpinRange {
+struct SpinRange
+{
     int lowest;
     int highest;
     int start;
@@ -32,6 +35,35 @@ public:
     /// Clickable halves in the control's coordinates.
     [[nodiscard]] QRect UpArrow() const;
     [[nodiscard]] QRect DownArrow() const;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    enum class Arrow { None, Up, Down };
+
+    [[nodiscard]] Arrow ArrowAt(QPoint position) const;
+    [[nodiscard]] bool CanMove(Arrow arrow) const;
+    void Repeat(Arrow arrow);
+    void LetGo();
+    void Hover(Arrow arrow);
+    void PaintHalf(QPainter& painter, const QStyleOptionButton& panel, Arrow arrow) const;
+    void PaintChevrons(QPainter& painter, Arrow arrow) const;
+
+    SpinLook m_look;
+    Arrow m_hovered = Arrow::None;
+    Arrow m_held = Arrow::None; ///< arrow that the mouse button went down on
+    bool m_down = false;        ///< the pointer is still on it
+    int m_wheelTurn = 0;        ///< turn that has not made a whole step yet, eighths of a degree
 };
 
 } // namespace quillon::ui

@@ -17,14 +17,34 @@ public:
     ValueLabel(Size size, QString unit, QWidget* parent = nullptr);
 
     void SetBetter(bool better);
+
     [[nodiscard]] bool IsBetter() const noexcept { return m_better; }
+
     /// Tool tip shown as plain text whatever it holds.
     void SetFormula(const QString& text);
+
+    /// Middle of the decimal separator, in the label's coordinates: depends on the width alone, so that it is the same
+    /// in all labels of a column.
+    [[nodiscard]] double SeparatorX() const;
+    /// Whether the unit is painted: it gives way when the value needs its room.
+    [[nodiscard]] bool ShowsUnit() const;
+    /// Font that the value is painted in: the size steps down before a wide value would be cut.
+    [[nodiscard]] QFont PaintedFont() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    void ApplyFont();
+    [[nodiscard]] int HintWidth(bool withUnit) const;
+    void PaintCell(QPainter& painter) const;
+    void PaintValue(QPainter& painter) const;
+    void PaintUnit(QPainter& painter) const;
+
     Size m_size;
     QString m_unit;
     bool m_better = false;

@@ -1,0 +1,233 @@
+// The keyboard, wheel and focus rules of the catalogue lists.
+#include "engine/key_checks.h"
+#include "ui/widgets/catalogue_list_box.h"
+#include "ui/widgets/list_keys.h"
+
+#include <QAbstractItemView>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon::ui {
+
+namespace {
+
+constexpr int kWheelStep = 120;
+
+bool IsOneOf(const QKeyEvent& event, std::initializer_list<Qt::Key> keys)
+{
+    return std::ranges::find(keys, static_cast<Qt::Key>(event.key())) != keys.end();
+}
+
+/// Keys that edit the text or move the caret even while the drop-down list is open.
+bool EditsText(const QKeyEvent& event)
+{
+    return TypesCharacter(event) || IsOneOf(event, {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Left, Qt::Key_Right});
+}
+
+} // namespace
+
+void CatalogueListBox::keyPressEvent(QKeyEvent* event)
+{
+    m_announced = false;
+    if (IsEnter(*event)) {
+        // Nothing happens before the key is released, and no button of the window may take it.
+        m_enterPressed = m_enterPressed || !event->isAutoRepeat();
+        event->accept();
+    } else if (TypesCharacter(*event)) {
+        TypeFiltered(event);
+    } else {
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+void CatalogueListBox::TypeFiltered(QKeyEvent* event)
+{
+    const QString text = FilteredListText(event->text());
+    event->accept();
+    if (text.isEmpty()) {
+        return;
+    }
+    QKeyEvent filtered(event->type(), event->key(), event->modifiers(), text, event->isAutoRepeat(),
+                       static_cast<quint16>(event->count()));
+    QComboBox::keyPressEvent(&filtered);
+}
+
+void CatalogueListBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    QInputMethodEvent filtered(event->preeditString(), event->attributes());
+    filtered.setCommitString(FilteredListText(event->commitString()), event->replacementStart(),
+                             event->replacementLength());
+    QComboBox::inputMethodEvent(&filtered);
+    event->setAccepted(filtered.isAccepted());
+}
+
+void CatalogueListBox::keyReleaseEvent(QKeyEvent* event)
+{
+    QComboBox::keyReleaseEvent(event);
+    if (event->isAutoRepeat()) {
+        return;
+    }
+    if (IsEnter(*event)) {
+        event->accept();
+        TakeEnter();
+    } else if (engine::FilterListKey(ReleasedKeyCode(*event)) != 0) {
+        CompleteText();
+    }
+}
+
+void CatalogueListBox::CompleteText()
+{
+    QLineEdit* line = lineEdit();
+    const int caret = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+    const QString typed = line->text().left(caret);
+    if (typed.isEmpty()) {
+        return;
+    }
+    const int found = findText(typed, Qt::MatchStartsWith);
+    const QString text = found >= 0 ? itemText(found) : typed;
+    if (text != line->text()) {
+        line->setText(text);
+        line->setCursorPosition(caret);
+    }
+}
+
+void CatalogueListBox::TakeEnter()
+{
+    const bool chosen = std::exchange(m_chosenByPopup, false);
+    if (!std::exchange(m_enterPressed, false)) {
+        return;
+    }
+    lineEdit()->end(false);
+    const int index = IndexEqualTo(lineEdit()->text());
+    if (index < 0) {
+        return;
+    }
+    if (chosen) {
+        ShowFromStart();
+    } else {
+        Choose(index);
+    }
+    if (m_next != nullptr && m_next->isEnabled()) {
+        m_next->setFocus(Qt::TabFocusReason);
+        m_next->showPopup();
+    }
+}
+
+void CatalogueListBox::wheelEvent(QWheelEvent* event)
+{
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
+    m_announced = false;
+    m_wheelTurn += event->angleDelta().y();
+    event->accept();
+    if (std::abs(m_wheelTurn) >= kWheelStep) {
+        m_wheelTurn = 0;
+        QComboBox::wheelEvent(event);
+    }
+}
+
+void CatalogueListBox::focusInEvent(QFocusEvent* event)
+{
+    QComboBox::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+        ShowFromStart();
+    }
+}
+
+void CatalogueListBox::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::PopupFocusReason) {
+        m_enterPressed = false;
+        m_chosenByPopup = false;
+        m_wheelTurn = 0;
+    }
+    const bool leaves = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (const int index = leaves ? IndexEqualTo(currentText()) : -1; index >= 0) {
+        setCurrentIndex(index);
+    }
+    QComboBox::focusOutEvent(event);
+}
+
+void CatalogueListBox::showPopup()
+{
+    m_announced = false;
+    m_typedInPopup = false;
+    view()->installEventFilter(this);
+    const int wanted =
+        view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
+    view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width()));
+    QComboBox::showPopup();
+    HighlightText();
+}
+
+void CatalogueListBox::HighlightText()
+{
+    if (view()->isVisible()) {
+        view()->setCurrentIndex(model()->index(IndexEqualTo(currentText()), modelColumn(), rootModelIndex()));
+    }
+}
+
+bool CatalogueListBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        return PopupKeyPress(static_cast<QKeyEvent*>(event));
+    }
+    if (event->type() == QEvent::KeyRelease) {
+        return PopupKeyRelease(static_cast<QKeyEvent*>(event));
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+bool CatalogueListBox::PopupKeyPress(QKeyEvent* event)
+{
+    if (IsEnter(*event)) {
+        m_enterPressed = true;
+        return PopupEnter();
+    }
+    if (EditsText(*event)) {
+        m_typedInPopup = true;
+        keyPressEvent(event);
+        return true;
+    }
+    if (IsOneOf(*event, {Qt::Key_Tab, Qt::Key_Backtab})) {
+        hidePopup();
+        focusNextPrevChild(event->key() == Qt::Key_Tab);
+        return true;
+    }
+    if (IsOneOf(*event, {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})) {
+        m_typedInPopup = false;
+    }
+    return false;
+}
+
+bool CatalogueListBox::PopupEnter()
+{
+    m_chosenByPopup = !m_typedInPopup && view()->currentIndex().isValid();
+    if (m_chosenByPopup) {
+        return false;
+    }
+    hidePopup();
+    return true;
+}
+
+bool CatalogueListBox::PopupKeyRelease(QKeyEvent* event)
+{
+    if (!EditsText(*event)) {
+        return false;
+    }
+    keyReleaseEvent(event);
+    HighlightText();
+    return true;
+}
+
+} // namespace quillon::ui
