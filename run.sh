@@ -22,4 +22,4 @@ if has_display; then
     exec "$program"
 fi
 echo "There is no display here, so Quillon starts on a virtual one."
-scripts/on-virtual-display.sh /usr/bin/python3 scripts/take_picture.py "$program" "$PWD/build/release/Quillon.png"
+scripts/on-virtual-display.sh /usr/bin/python3 -B scripts/take_picture.py "$program" "$PWD/build/release/Quillon.png"

@@ -37,10 +37,15 @@ if ! read -r -t 60 number <"$work/number"; then
 fi
 export DISPLAY=":$number"
 export XDG_RUNTIME_DIR=$work
+export QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER
 
 XDG_CONFIG_HOME=$work openbox >"$work/window-manager.log" 2>&1 &
 children+=($!)
 wait_until 60 "the window manager" xdotool get_num_desktops
 
-dbus-run-session -- "$@"
+# The command writes where it would have written; what the bus and its services have to say is shown only when it fails.
+code=0
+dbus-run-session -- bash -c 'exec "$@" >&3 2>&4 3>&- 4>&-' on-virtual-display "$@" 3>&1 4>&2 &>"$work/bus.log" || code=$?
+[[ $code -eq 0 ]] || cat "$work/bus.log" >&2
+exit $code

@@ -1,0 +1,169 @@
+"""Runs Quillon and works it as a person would: keys go to the window through the display, and what stands on the screen
+is read as a screen reader reads it. Needs a display, a window manager and a session bus (on-virtual-display.sh).
+"""
+
+import os
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+TITLE = "ERP / Attenuation Calculator"
+
+# Long enough for a sanitized build on a busy machine; nothing waits longer than it has to.
+PATIENCE = 60
+
+
+class NotSeen(Exception):
+    """What was waited for did not come."""
+
+
+def wait_for(what, condition, found=lambda: ""):
+    """Returns the first result of the condition that is not empty. What is found instead goes into the complaint."""
+    deadline = time.monotonic() + PATIENCE
+    while True:
+        try:
+            result = condition()
+        except GLib.GError:
+            result = None  # the element went away while it was looked at
+        if result:
+            return result
+        if time.monotonic() > deadline:
+            raise NotSeen(f"waited in vain for {what} {found()}")
+        time.sleep(0.02)
+
+
+def has_state(element, state):
+    element.clear_cache()
+    return element.get_state_set().contains(state)
+
+
+def name_of(element):
+    element.clear_cache()
+    return element.get_name() or ""
+
+
+def text_of(element):
+    return Atspi.Text.get_text(element, 0, -1)
+
+
+def elements_below(element):
+    """All elements below one, but not the entries of lists: there are hundreds."""
+    for index in range(element.get_child_count()):
+        child = element.get_child_at_index(index)
+        if child is not None:
+            yield child
+            if child.get_role() != Atspi.Role.LIST:
+                yield from elements_below(child)
+
+
+class QuillonWindow:
+    """One run of the program: `with QuillonWindow(program) as window`."""
+
+    def __init__(self, program):
+        settings = {
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            # Figures are read as they stand, so the decimal separator has to be known.
+            "LC_ALL": "C.UTF-8",
+        }
+        Atspi.init()
+        self._process = subprocess.Popen([program], env={**os.environ, **settings})
+        try:
+            application = wait_for("the program on the accessibility bus", self._application)
+            frame = wait_for(f'the window "{TITLE}"', lambda: self._frame(application))
+            self.id = wait_for("the window on the display", self._window_id)
+            self._xdotool("windowactivate", "--sync", self.id)
+            wait_for("the window to become active", lambda: has_state(frame, Atspi.StateType.ACTIVE))
+            # The name of a list box is its text once something is chosen, so everything keeps the name it starts with.
+            self._elements = [(element, element.get_name()) for element in elements_below(frame)]
+        except BaseException:
+            self.close()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        """Ends the program."""
+        if self._process.poll() is None:
+            self._process.terminate()
+        self.wait_for_end()
+
+    def wait_for_end(self):
+        """Returns the program's exit code."""
+        return self._process.wait(PATIENCE)
+
+    def names(self):
+        """What a screen reader says of everything in the window, unnamed elements left out."""
+        return [name for name in (name_of(element) for element, _ in self._elements) if name]
+
+    def wait_for_names(self, *wanted):
+        wait_for(f"{wanted}", lambda: set(wanted) <= set(self.names()), lambda: f"among {self.names()}")
+
+    def focused(self):
+        """Name of what has the keyboard; for the inner parts of a list box, the list box's."""
+        box = ""
+        for element, name in self._elements:
+            if element.get_role() == Atspi.Role.COMBO_BOX:
+                box = name
+            if has_state(element, Atspi.StateType.FOCUSED):
+                return name or box
+        return ""
+
+    def tab_to(self, name):
+        """Presses Tab until the named element has the keyboard."""
+        before = wait_for("the keyboard focus", self.focused)
+        for _ in self._elements:
+            if before == name:
+                return
+            self.press("Tab")
+            before = wait_for("the focus to move on", lambda: self.focused() not in ("", before) and self.focused())
+        raise NotSeen(f'"{name}" on the way of the Tab key')
+
+    def choose(self, list_name, entry):
+        """Types an entry into the list that has the keyboard, in small letters, and takes it with Enter."""
+        wait_for(f'the keyboard in "{list_name}"', lambda: self.focused() == list_name, lambda: f"not in {self.focused()}")
+        box = next(element for element, name in self._elements if name == list_name)
+        text = next(child for child in elements_below(box) if child.get_role() == Atspi.Role.TEXT)
+        self._xdotool("type", "--delay", "20", entry.lower())
+        wait_for(f'"{entry}" in "{list_name}"', lambda: text_of(text) == entry, lambda: f"not {text_of(text)}")
+        self.press("Return")
+
+    def choose_system(self, system, coax, antenna):
+        """Chooses (maker, type) and (maker, model, band): each Enter opens the next list, from the first to the last."""
+        self.tab_to(f"System {system} coax brand")
+        for kind, entry in zip(("coax brand", "coax type"), coax, strict=True):
+            self.choose(f"System {system} {kind}", entry)
+        for kind, entry in zip(("antenna brand", "antenna model", "antenna band"), antenna, strict=True):
+            self.choose(f"System {system} {kind}", entry)
+
+    def press(self, key):
+        self._xdotool("key", key)
+
+    @staticmethod
+    def _xdotool(*arguments):
+        subprocess.run(["xdotool", *arguments], check=True, capture_output=True, timeout=PATIENCE)
+
+    def _application(self):
+        if self._process.poll() is not None:
+            raise NotSeen(f"the program ended at its start with {self._process.returncode}")
+        desktop = Atspi.get_desktop(0)
+        desktop.clear_cache()
+        children = map(desktop.get_child_at_index, range(desktop.get_child_count()))
+        return next((child for child in children if child and child.get_process_id() == self._process.pid), None)
+
+    @staticmethod
+    def _frame(application):
+        application.clear_cache()
+        children = map(application.get_child_at_index, range(application.get_child_count()))
+        return next((child for child in children if child and child.get_name() == TITLE), None)
+
+    def _window_id(self):
+        search = ["xdotool", "search", "--onlyvisible", "--all", "--pid", str(self._process.pid), "--name", TITLE]
+        return next(iter(subprocess.run(search, check=False, capture_output=True, text=True).stdout.split()), None)
