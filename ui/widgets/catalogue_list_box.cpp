@@ -31,6 +31,10 @@ CatalogueListBox::CatalogueListBox(QWidget* parent)
     setMinimumContentsLength(kLeastCharacters);
     // The wheel must not take the focus, or scrolling the window would change choices.
     setFocusPolicy(Qt::StrongFocus);
+    // What leaving the list chooses is decided in one place, by focusOutEvent; the box's own rule would also choose
+    // when the drop-down list opens or another program comes to the front.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    connect(lineEdit(), &QLineEdit::textEdited, this, &CatalogueListBox::OnTextEdited);
     connect(this, &QComboBox::currentIndexChanged, this, &CatalogueListBox::OnIndexChanged);
     connect(this, &QComboBox::activated, this, &CatalogueListBox::OnActivated);
 }
@@ -124,6 +128,11 @@ void CatalogueListBox::OnActivated(int index)
         ShowFromStart();
         emit Chosen();
     }
+}
+
+void CatalogueListBox::OnTextEdited()
+{
+    m_typedInPopup = true;
 }
 
 void CatalogueListBox::ShowFromStart()

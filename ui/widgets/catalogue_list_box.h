@@ -69,6 +69,7 @@ protected:
 private:
     void OnIndexChanged(int index);
     void OnActivated(int index);
+    void OnTextEdited();
     void ShowFromStart();
 
     [[nodiscard]] int IndexEqualTo(const QString& text) const;

@@ -146,13 +146,16 @@ void CatalogueListBox::focusInEvent(QFocusEvent* event)
 
 void CatalogueListBox::focusOutEvent(QFocusEvent* event)
 {
-    if (event->reason() != Qt::PopupFocusReason) {
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::PopupFocusReason) {
+        // An Enter that goes up in another window is none of this list's.
         m_enterPressed = false;
         m_chosenByPopup = false;
         m_wheelTurn = 0;
     }
-    const bool leaves = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
-    if (const int index = leaves ? IndexEqualTo(currentText()) : -1; index >= 0) {
+    const bool comesBack =
+        reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
+    if (const int index = comesBack ? -1 : IndexEqualTo(currentText()); index >= 0) {
         setCurrentIndex(index);
     }
     QComboBox::focusOutEvent(event);
@@ -195,7 +198,6 @@ bool CatalogueListBox::PopupKeyPress(QKeyEvent* event)
         return PopupEnter();
     }
     if (EditsText(*event)) {
-        m_typedInPopup = true;
         keyPressEvent(event);
         return true;
     }
@@ -226,7 +228,9 @@ bool CatalogueListBox::PopupKeyRelease(QKeyEvent* event)
         return false;
     }
     keyReleaseEvent(event);
-    HighlightText();
+    if (m_typedInPopup) {
+        HighlightText();
+    }
     return true;
 }
 

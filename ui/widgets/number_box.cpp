@@ -124,7 +124,14 @@ void NumberBox::initStyleOption(QStyleOptionFrame* option) const
     if (m_byArrowsOnly) {
         option->state &= ~QStyle::State_ReadOnly;
     } else if (isReadOnly()) {
-        option->palette.setBrush(QPalette::Base, option->palette.brush(QPalette::Window));
+        // Made once per palette: a fresh one at each painting would fill the styles' caches.
+        if (m_followingMadeFrom != option->palette.cacheKey()) {
+            m_followingMadeFrom = option->palette.cacheKey();
+            m_following = option->palette;
+            m_following.setBrush(QPalette::Base, option->palette.brush(QPalette::Window));
+        }
+        m_following.setCurrentColorGroup(option->palette.currentColorGroup());
+        option->palette = m_following;
     }
 }
 

@@ -61,6 +61,8 @@ private:
     QString m_why;
     QString m_hint;
     QString m_warning;
+    mutable QPalette m_following; ///< colours of a figure that follows another control
+    mutable qint64 m_followingMadeFrom = 0;
 };
 
 } // namespace quillon::ui

@@ -100,6 +100,11 @@ void TitledFrame::KeepRoomForTitle()
     setContentsMargins(0, height > 0 ? height + BaseUnit() : 0, 0, 0);
 }
 
+QSize TitledFrame::sizeHint() const
+{
+    return QGroupBox::sizeHint().expandedTo({TitleWidth(0), TitleHeight()});
+}
+
 QSize TitledFrame::minimumSizeHint() const
 {
     const QString insists = PlainTitle().left(kShortTitle);

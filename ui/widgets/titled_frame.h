@@ -29,6 +29,8 @@ public:
     /// What is painted: the title, elided in the middle when it has to be, so that the system's number stays.
     [[nodiscard]] QString ShownTitle() const;
 
+    /// Wants the whole title at its first step; can do with less.
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:

@@ -89,6 +89,20 @@ void ValueLabel::ApplyFont()
     setFont(ValueFont(m_size, m_better));
 }
 
+void ValueLabel::setText(const QString& text)
+{
+    if (text == this->text()) {
+        return;
+    }
+    const int usual = HintWidth(false);
+    QLabel::setText(text);
+    if (HintWidth(false) != usual) {
+        for (ValueLabel* label : Neighbours()) {
+            label->updateGeometry();
+        }
+    }
+}
+
 void ValueLabel::SetBetter(bool better)
 {
     if (better == m_better) {
@@ -129,11 +143,25 @@ bool ValueLabel::ShowsUnit() const
     return RightOf(DigitCells(PaintedFont()), SplitNumber(text())) <= room;
 }
 
+QList<ValueLabel*> ValueLabel::Neighbours() const
+{
+    return parentWidget() == nullptr ? QList<ValueLabel*>()
+                                     : parentWidget()->findChildren<ValueLabel*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+double ValueLabel::NeededLeft() const
+{
+    return LeftOf(DigitCells(ValueFont(Size::Row, true)), SplitNumber(text())) + BaseUnit();
+}
+
 int ValueLabel::HintWidth(bool withUnit) const
 {
     const Column column = ColumnWidths();
     const double usual = withUnit ? column.Full() : column.Narrow();
-    const double needed = LeftOf(DigitCells(ValueFont(Size::Row, true)), SplitNumber(text())) + column.margin;
+    double needed = NeededLeft();
+    for (const ValueLabel* label : Neighbours()) {
+        needed = std::max(needed, label->NeededLeft());
+    }
     const double missing = needed - SeparatorIn(column, usual);
     // Beyond the full width every second pixel goes to the left of the separator.
     return static_cast<int>(std::ceil(missing > 0 ? column.Full() + 2 * missing : usual));

@@ -16,6 +16,9 @@ public:
     /// @param unit  painted quietly beside the value when there is room, "W" or empty
     ValueLabel(Size size, QString unit, QWidget* parent = nullptr);
 
+    /// Shows a value. What one value needs beyond the usual room all labels beside it ask for too, so that both
+    /// columns stay equally wide.
+    void setText(const QString& text);
     void SetBetter(bool better);
 
     [[nodiscard]] bool IsBetter() const noexcept { return m_better; }
@@ -40,6 +43,8 @@ protected:
 
 private:
     void ApplyFont();
+    [[nodiscard]] QList<ValueLabel*> Neighbours() const;
+    [[nodiscard]] double NeededLeft() const;
     [[nodiscard]] int HintWidth(bool withUnit) const;
     void PaintCell(QPainter& painter) const;
     void PaintValue(QPainter& painter) const;
