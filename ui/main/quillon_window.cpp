@@ -14,8 +14,8 @@ Quillon::Quillon(const QuillonParts& parts, QWidget* parent)
     , m_results(new ResultsFrame(parts.systems.Results, locale(), m_content))
     , m_calculations(parts.systems, *m_results, parts.hooks, locale().decimalPoint().toStdString())
     , m_workspace(parts.systems, m_calculations, parts.catalogue, parts.notifier, locale())
-    , m_columns(new SystemColumn(engine::SystemId::One, m_workspace, *m_results, m_content),
-                new SystemColumn(engine::SystemId::Two, m_workspace, *m_results, m_content))
+    , m_columns{new SystemColumn(engine::SystemId::One, m_workspace, *m_results, m_content),
+                new SystemColumn(engine::SystemId::Two, m_workspace, *m_results, m_content)}
     , m_coaxLoss(new CoaxLossFrame(m_workspace, m_content))
     , m_antennaGain(new AntennaGainFrame(m_workspace, m_content))
 {
@@ -24,6 +24,7 @@ Quillon::Quillon(const QuillonParts& parts, QWidget* parent)
     const WindowParts window{m_columns, m_results, m_coaxLoss, m_antennaGain};
     LayOutWindow(*this, *m_content, window);
     SetWindowTabOrder(window);
+    m_columns[engine::SystemId::One]->Power()->TabOrder().first()->setFocus();
     Wire();
 }
 
@@ -32,6 +33,9 @@ void Quillon::Wire()
     const SystemColumn& one = *m_columns[engine::SystemId::One];
     connect(m_coaxLoss, &CoaxLossFrame::UseLists, one.Coax(), &CoaxFrame::SetListsEnabled);
     connect(m_antennaGain, &AntennaGainFrame::UseLists, one.Antenna(), &AntennaFrame::SetListsEnabled);
+    for (TitledFrame* frame : InputFrames()) {
+        frame->installEventFilter(this);
+    }
 }
 
 void Quillon::Load()
@@ -99,19 +103,26 @@ void Quillon::changeEvent(QEvent* event)
     }
 }
 
-void Quillon::resizeEvent(QResizeEvent* event)
+bool Quillon::eventFilter(QObject* watched, QEvent* event)
 {
-    QMainWindow::resizeEvent(event);
-    FitFrameTitles();
+    if (event->type() == QEvent::Resize) {
+        FitFrameTitles();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
-void Quillon::FitFrameTitles()
+QList<TitledFrame*> Quillon::InputFrames() const
 {
     QList<TitledFrame*> frames;
     for (const engine::SystemId system : engine::kBothSystems) {
         frames += m_columns[system]->Frames();
     }
-    FitTitles(frames);
+    return frames;
+}
+
+void Quillon::FitFrameTitles()
+{
+    FitTitles(InputFrames());
 }
 
 } // namespace quillon::ui

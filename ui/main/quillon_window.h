@@ -44,12 +44,13 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Wire();
     void StartFlags();
     void StartSystems();
+    [[nodiscard]] QList<TitledFrame*> InputFrames() const;
     void FitFrameTitles();
 
     engine::AntennaSystems& m_systems;

@@ -8,7 +8,10 @@
 
 #include <QGridLayout>
 #include <QMainWindow>
+#include <QScreen>
 #include <QScrollArea>
+
+#include <algorithm>
 
 namespace quillon::ui {
 
@@ -47,13 +50,14 @@ void AddCard(QGridLayout& grid, int column, QWidget& content)
     grid.addWidget(card, TopPadding, column, RowCount, 1);
 }
 
+/// Widgets one above the other, as high as they want to be: what is left belongs to the rows between the frames.
 QVBoxLayout* Inset(const QList<QWidget*>& widgets, int margin)
 {
     auto* column = new QVBoxLayout;
     column->setContentsMargins(margin, 0, margin, 0);
     column->setSpacing(2 * BaseUnit());
     for (QWidget* widget : widgets) {
-        column->addWidget(widget);
+        column->addWidget(widget, 0, Qt::AlignTop);
     }
     return column;
 }
@@ -63,15 +67,18 @@ QLayout* PowerAndVSWR(const SystemColumn& system, int margin)
     auto* row = new QHBoxLayout;
     row->setContentsMargins(margin, 0, margin, 0);
     row->setSpacing(3 * BaseUnit());
-    row->addWidget(system.Power(), 1);
-    row->addWidget(system.VSWR(), 1);
+    row->addWidget(system.Power(), 1, Qt::AlignTop);
+    row->addWidget(system.VSWR(), 1, Qt::AlignTop);
     return row;
 }
 
 void AddHairlines(QGridLayout& grid, int column, QWidget& content)
 {
     for (const int row : {PowerRow + 1, FrequencyRow + 1, CoaxRow + 1, CoaxDataRow + 1}) {
-        grid.addLayout(Inset({new Hairline(&content)}, 2 * BaseUnit()), row, column, Qt::Alignment());
+        auto* line = new QHBoxLayout;
+        line->setContentsMargins(2 * BaseUnit(), 0, 2 * BaseUnit(), 0);
+        line->addWidget(new Hairline(&content), 0, Qt::AlignVCenter);
+        grid.addLayout(line, row, column);
     }
 }
 
@@ -99,7 +106,8 @@ void AddSystem(QGridLayout& grid, const WindowParts& parts, engine::SystemId sys
 void AddResults(QGridLayout& grid, ResultsFrame& results, QWidget& content)
 {
     AddCard(grid, kResultsColumn, content);
-    auto* inset = Inset({&results}, 2 * BaseUnit());
+    auto* inset = new QVBoxLayout;
+    inset->addWidget(&results);
     inset->setContentsMargins(2 * BaseUnit(), 2 * BaseUnit(), 2 * BaseUnit(), BaseUnit());
     grid.addLayout(inset, TopPadding, kResultsColumn, RowCount, 1);
     grid.setColumnStretch(kResultsColumn, kResultsStretch);
@@ -116,7 +124,21 @@ void SpaceRows(QGridLayout& grid)
     }
 }
 
-void ScrollContent(QMainWindow& window, QWidget& content)
+/// The width at which no frame's title is shortened: each column gets its share of the whole, not what it asks for.
+int StartWidth(const WindowParts& parts)
+{
+    int system = 0;
+    for (const TitledFrame* frame : parts.columns[engine::SystemId::One]->Frames()) {
+        system = std::max(system, frame->sizeHint().width());
+    }
+    const int unit = BaseUnit();
+    const int shares = 2 * kSystemStretch + kResultsStretch;
+    const int forSystem = (system + 5 * unit) * shares / kSystemStretch;
+    const int forResults = (parts.results->sizeHint().width() + 4 * unit) * shares / kResultsStretch;
+    return std::max(forSystem, forResults) + 9 * unit;
+}
+
+void ScrollContent(QMainWindow& window, QWidget& content, int startWidth)
 {
     auto* area = new QScrollArea(&window);
     area->setWidgetResizable(true);
@@ -126,9 +148,10 @@ void ScrollContent(QMainWindow& window, QWidget& content)
     area->setWidget(&content);
     window.setCentralWidget(area);
 
-    const QSize hint = content.sizeHint();
+    const QSize hint = content.sizeHint().expandedTo({startWidth, 0});
     content.setMaximumSize(qRound(kLargestWidth * hint.width()), qRound(kLargestHeight * hint.height()));
-    window.resize(hint.width(), qRound(kStartHeight * hint.height()));
+    const QSize start(hint.width(), qRound(kStartHeight * hint.height()));
+    window.resize(start.boundedTo(window.screen()->availableSize()));
 }
 
 } // namespace
@@ -146,7 +169,7 @@ void LayOutWindow(QMainWindow& window, QWidget& content, const WindowParts& part
     SpaceRows(*grid);
     parts.coaxLoss->hide();
     parts.antennaGain->hide();
-    ScrollContent(window, content);
+    ScrollContent(window, content, StartWidth(parts));
 }
 
 void SetWindowTabOrder(const WindowParts& parts)
