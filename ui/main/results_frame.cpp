@@ -21,6 +21,8 @@ enum Column { MarkerOne, ValueOne, Caption, ValueTwo, MarkerTwo, ColumnCount };
 constexpr int kStatusRow = 2 * engine::kResultLabelCount;
 constexpr int kRowStretch = 10;
 constexpr int kTotalStretch = 14;
+/// The long title shrinks so far against the application font before it is elided.
+constexpr double kSmallestTitle = 0.8;
 
 bool IsTotal(const ResultRow& row)
 {
@@ -64,6 +66,7 @@ ResultsFrame::ResultsFrame(const engine::PerSystem<engine::SystemResults>& resul
     , m_grid(new QGridLayout(this))
 {
     setObjectName(QStringLiteral("FrameDisplay"));
+    SetSmallest(kSmallestTitle);
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setSpacing(0);
     AddPlates();
