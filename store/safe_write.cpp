@@ -76,7 +76,7 @@ bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::strin
     }
     const std::string temporary = target->parent_path() / ("." + target->filename().string() + ".tmp");
     const std::filesystem::path folderPath = target->has_parent_path() ? target->parent_path() : ".";
-    OpenFile folder(calls, folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const OpenFile folder(calls, folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (!folder || !RemoveIfThere(calls, temporary)) {
         return false;
     }
@@ -84,7 +84,7 @@ bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::strin
         RemoveIfThere(calls, temporary);
         return false;
     }
-    return SyncFolder(calls, folder.Descriptor()) && folder.Close();
+    return SyncFolder(calls, folder.Descriptor());
 }
 
 void CreateEmptyFile(FileCalls& calls, const std::filesystem::path& file)

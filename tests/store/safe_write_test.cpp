@@ -1,0 +1,289 @@
+#include "store/safe_write.h"
+
+#include "tests/store/failing_calls.h"
+#include "tests/support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <sys/resource.h>
+#include <system_error>
+
+namespace quillon::store {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+constexpr const char* kTemporary = ".f.dat.tmp";
+
+// Places of some calls in a complete write, see BringsFileAndFolderToTheDiskInTheRightOrder.
+constexpr int kWrite = 6;
+constexpr int kFileSync = 8;
+constexpr int kFileClose = 9;
+constexpr int kRename = 10;
+constexpr int kFolderSync = 11;
+
+class ReplaceFileTest : public ::testing::Test
+{
+protected:
+    mode_t Mode(const char* name)
+    {
+        struct stat status = {};
+        EXPECT_EQ(::stat((m_folder / name).c_str(), &status), 0);
+        return status.st_mode & 07777U;
+    }
+
+    support::TempFolder m_folder;
+    fs::path m_file = m_folder / "f.dat";
+    FailingCalls m_calls;
+};
+
+TEST_F(ReplaceFileTest, PutsTheNewTextInThePlaceOfTheOld)
+{
+    m_folder.Put("f.dat", "a much longer old text");
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "new");
+    EXPECT_EQ(m_folder.Names(), Names{"f.dat"});
+}
+
+TEST_F(ReplaceFileTest, BringsFileAndFolderToTheDiskInTheRightOrder)
+{
+    m_folder.Put("f.dat", "old");
+    ASSERT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_calls.Made(), (Names{"stat", "access", "open", "unlink", "open", "write", "fchmod", "fsync", "close",
+                                     "rename", "fsync", "close"}));
+}
+
+TEST_F(ReplaceFileTest, CreatesAMissingFileWithTheModeThatTheUserMaskLeaves)
+{
+    const mode_t before = ::umask(027);
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    ::umask(before);
+    EXPECT_EQ(m_folder.Get("f.dat"), "new");
+    EXPECT_EQ(Mode("f.dat"), 0640U);
+}
+
+TEST_F(ReplaceFileTest, KeepsTheModeAlsoAgainstTheUserMask)
+{
+    fs::permissions(m_folder.Put("f.dat", "old"), fs::perms(0666));
+    const mode_t before = ::umask(077);
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    ::umask(before);
+    EXPECT_EQ(Mode("f.dat"), 0666U);
+}
+
+TEST_F(ReplaceFileTest, WritesAnEmptyText)
+{
+    m_folder.Put("f.dat", "old");
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, ""));
+    EXPECT_EQ(m_folder.Get("f.dat"), "");
+}
+
+TEST_F(ReplaceFileTest, WorksOnANameWithoutFolder)
+{
+    const fs::path before = fs::current_path();
+    fs::current_path(m_folder.Path());
+    EXPECT_TRUE(ReplaceFile(m_calls, "f.dat", "new"));
+    fs::current_path(before);
+    EXPECT_EQ(m_folder.Get("f.dat"), "new");
+}
+
+/// Each call of a write up to the one that puts the new file in place fails once with each error.
+class ReplaceFileFailure : public ReplaceFileTest, public ::testing::WithParamInterface<int>
+{
+};
+
+TEST_P(ReplaceFileFailure, LeavesTheOldFileAndNoTemporaryOne)
+{
+    for (int number = 1; number <= kRename; ++number) {
+        m_folder.Put("f.dat", "old");
+        m_calls.FailAt(number, GetParam());
+        EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new")) << number;
+        EXPECT_EQ(m_folder.Get("f.dat"), "old") << number;
+        EXPECT_EQ(m_folder.Names(), Names{"f.dat"}) << number;
+    }
+}
+
+TEST_P(ReplaceFileFailure, AtTheFoldersSyncIsReportedThoughTheNewFileStands)
+{
+    m_folder.Put("f.dat", "old");
+    m_calls.FailAt(kFolderSync, GetParam());
+    EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "new");
+    EXPECT_EQ(m_folder.Names(), Names{"f.dat"});
+}
+
+INSTANTIATE_TEST_SUITE_P(Errors, ReplaceFileFailure, ::testing::Values(EIO, ENOSPC, EDQUOT, EACCES, EROFS, ENOMEM));
+
+TEST_F(ReplaceFileTest, GoesOnWhenACallIsInterrupted)
+{
+    for (const int number : {kWrite, kFileSync, kFileClose, kFolderSync}) {
+        m_folder.Put("f.dat", "old");
+        m_calls.FailAt(number, EINTR);
+        EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new")) << number;
+        EXPECT_EQ(m_folder.Get("f.dat"), "new") << number;
+    }
+}
+
+TEST_F(ReplaceFileTest, TakesAFolderThatKnowsNoSyncingAsSynced)
+{
+    m_folder.Put("f.dat", "old");
+    m_calls.FailAt(kFolderSync, EINVAL);
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+}
+
+class SlowWriter : public FileCalls
+{
+public:
+    explicit SlowWriter(std::size_t step)
+        : m_step(step)
+    {
+    }
+
+    ssize_t Write(int descriptor, const void* buffer, std::size_t length) override
+    {
+        return FileCalls::Write(descriptor, buffer, std::min(length, m_step));
+    }
+
+private:
+    std::size_t m_step;
+};
+
+TEST_F(ReplaceFileTest, WritesOnAfterShortWrites)
+{
+    SlowWriter calls(3);
+    EXPECT_TRUE(ReplaceFile(calls, m_file, "0123456789"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "0123456789");
+}
+
+TEST_F(ReplaceFileTest, FailsWhenNothingGetsWritten)
+{
+    m_folder.Put("f.dat", "old");
+    SlowWriter calls(0);
+    EXPECT_FALSE(ReplaceFile(calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "old");
+    EXPECT_EQ(m_folder.Names(), Names{"f.dat"});
+}
+
+TEST_F(ReplaceFileTest, KeepsTheOldFileWhenTheSystemStopsTheWriteHalfWay)
+{
+    m_folder.Put("f.dat", "old");
+    auto* const signalBefore = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small{4096, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_FALSE(ReplaceFile(m_calls, m_file, std::string(10000, 'n')));
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, signalBefore);
+    EXPECT_EQ(m_folder.Get("f.dat"), "old");
+    EXPECT_EQ(m_folder.Names(), Names{"f.dat"});
+}
+
+TEST_F(ReplaceFileTest, FailsInAMissingFolder)
+{
+    EXPECT_FALSE(ReplaceFile(m_calls, m_folder / "missing/f.dat", "new"));
+    EXPECT_TRUE(m_folder.Names().empty());
+}
+
+TEST_F(ReplaceFileTest, FailsBelowAFile)
+{
+    m_folder.Put("f.dat", "old");
+    EXPECT_FALSE(ReplaceFile(m_calls, m_folder / "f.dat/g.dat", "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "old");
+}
+
+TEST_F(ReplaceFileTest, LeavesAloneWhatIsNoRegularFile)
+{
+    fs::create_directory(m_file);
+    EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_TRUE(fs::is_directory(m_file));
+    fs::create_symlink("/dev/null", m_folder / "null");
+    EXPECT_FALSE(ReplaceFile(m_calls, m_folder / "null", "new"));
+    EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "null"}));
+}
+
+TEST_F(ReplaceFileTest, RemovesAStaleTemporaryFile)
+{
+    m_folder.Put("f.dat", "old");
+    m_folder.Put(kTemporary, "left by a crash, longer than the new text");
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "new");
+    EXPECT_EQ(m_folder.Names(), Names{"f.dat"});
+}
+
+TEST_F(ReplaceFileTest, NeverWritesThroughALinkAtTheTemporaryName)
+{
+    m_folder.Put("f.dat", "old");
+    m_folder.Put("other", "untouched");
+    fs::create_symlink("other", m_folder / kTemporary);
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("other"), "untouched");
+    EXPECT_EQ(m_folder.Get("f.dat"), "new");
+}
+
+TEST_F(ReplaceFileTest, FailsWhenAFolderHasTheTemporaryName)
+{
+    m_folder.Put("f.dat", "old");
+    fs::create_directory(m_folder / kTemporary);
+    EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "old");
+}
+
+TEST_F(ReplaceFileTest, ReplacesTheFileBehindALinkAndKeepsTheLink)
+{
+    m_folder.Put("real/g.dat", "old");
+    fs::create_symlink("g.dat", m_folder / "real/second");
+    fs::create_symlink("real/second", m_file);
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_TRUE(fs::is_symlink(m_file));
+    EXPECT_TRUE(fs::is_symlink(m_folder / "real/second"));
+    EXPECT_FALSE(fs::is_symlink(m_folder / "real/g.dat"));
+    EXPECT_EQ(m_folder.Get("real/g.dat"), "new");
+    EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "real"}));
+}
+
+TEST_F(ReplaceFileTest, CreatesTheFileThatALinkLeadsTo)
+{
+    fs::create_symlink("g.dat", m_file);
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_TRUE(fs::is_symlink(m_file));
+    EXPECT_EQ(m_folder.Get("g.dat"), "new");
+}
+
+TEST_F(ReplaceFileTest, FailsOnLinksThatGoRoundInACircle)
+{
+    fs::create_symlink("g.dat", m_file);
+    fs::create_symlink("f.dat", m_folder / "g.dat");
+    EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "g.dat"}));
+}
+
+TEST(CreateEmptyFile, CreatesTheFile)
+{
+    const support::TempFolder folder;
+    FileCalls calls;
+    CreateEmptyFile(calls, folder / "f.dat");
+    EXPECT_EQ(folder.Get("f.dat"), "");
+}
+
+TEST(CreateEmptyFile, ThrowsInAMissingFolder)
+{
+    const support::TempFolder folder;
+    FileCalls calls;
+    EXPECT_THROW(CreateEmptyFile(calls, folder / "missing/f.dat"), std::system_error);
+}
+
+TEST(CreateEmptyFile, ThrowsOnAFileThatIsThereAndLeavesIt)
+{
+    const support::TempFolder folder;
+    folder.Put("f.dat", "old");
+    FileCalls calls;
+    EXPECT_THROW(CreateEmptyFile(calls, folder / "f.dat"), std::system_error);
+    EXPECT_EQ(folder.Get("f.dat"), "old");
+}
+
+} // namespace
+} // namespace quillon::store
