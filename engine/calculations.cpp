@@ -153,8 +153,7 @@ float Calculations::ApplyVSWR(float power, Draft& draft) const
 
 void Calculations::ComputeCoaxDBLoss(Draft& draft) const
 {
-    const float hundredFeet = Checked(draft.data.CoaxLength / 100);
-    draft.results.CoaxDBLoss = Checked(hundredFeet * draft.data.CoaxLoss);
+    draft.results.CoaxDBLoss = Checked(draft.data.CoaxLength / 100 * draft.data.CoaxLoss);
     draft.ShowResult(ResultLabel::CoaxDBLoss, Masked(draft.results.CoaxDBLoss, "##0.00"));
 }
 
@@ -184,7 +183,7 @@ void Calculations::ShowAntennaGain(Draft& draft) const
 void Calculations::ShowSystemGain(Draft& draft) const
 {
     SystemResults& results = draft.results;
-    const float losses = Checked(results.CoaxDBLoss + results.ConnectorLoss);
+    const float losses = results.CoaxDBLoss + results.ConnectorLoss;
     results.SystemGain = RoundWithMask(losses * -1 + results.AntennaGainDBd, "##0.00");
     const std::string gain = Plain(results.SystemGain);
     draft.ShowResult(ResultLabel::SystemGain, gain);

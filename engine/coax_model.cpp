@@ -109,7 +109,7 @@ std::optional<std::size_t> FindBin(std::size_t segment, float frequency) noexcep
 float CoaxLossByK(float k1, float k2, float frequency, float coaxLength)
 {
     const double skinLoss = k1 * std::sqrt(static_cast<double>(frequency));
-    const float dielectricLoss = Checked(k2 * frequency);
+    const float dielectricLoss = k2 * frequency;
     return StoreAsFloat((skinLoss + dielectricLoss) * coaxLength / 100);
 }
 
@@ -124,7 +124,7 @@ float CoaxLossBySpec(const std::array<float, 9>& coaxSpec, float frequency)
         return 0;
     }
     const float base = *segment == 0 ? 0.01F : coaxSpec[*segment - 1];
-    const double step = *segment == kInterpolatedSegment ? Checked(coaxSpec[2] - coaxSpec[1]) * 0.1 : 0.0;
+    const double step = *segment == kInterpolatedSegment ? (coaxSpec[2] - coaxSpec[1]) * 0.1 : 0.0;
     return StoreAsFloat(base + 0.01 + static_cast<double>(*bin + 1) * step);
 }
 

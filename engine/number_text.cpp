@@ -38,13 +38,12 @@ std::int64_t ExponentOf(std::string_view number) noexcept
 }
 
 /// Tells the two ways of leaving a float's range apart.
-/// @param number  the text of a number that is not zero.
+/// @param number  the text of a number far from one that is not zero.
 bool IsBelowOne(std::string_view number) noexcept
 {
     const auto firstDigit = static_cast<std::int64_t>(number.find_first_of("123456789"));
     const auto wholeDigits = static_cast<std::int64_t>(std::min(number.find_first_not_of(kDigits), number.size()));
-    const std::int64_t pointPassed = firstDigit > wholeDigits ? 1 : 0;
-    return wholeDigits - firstDigit + pointPassed + ExponentOf(number) <= 0;
+    return wholeDigits - firstDigit + ExponentOf(number) < 0;
 }
 
 } // namespace

@@ -63,7 +63,7 @@ PowerResult PowerFromCoefficient(PowerKind kind, float coefficient, float power,
     const std::string factors = plain(power) + " * " + plain(coefficient);
     switch (kind) {
     case PowerKind::AntennaPowerGain: {
-        const float added = Checked(product - power);
+        const float added = product - power;
         return {added, "(" + factors + ") - " + plain(power) + " = " + plain(added)};
     }
     case PowerKind::SystemPower: {

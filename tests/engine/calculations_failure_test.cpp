@@ -52,12 +52,15 @@ INSTANTIATE_TEST_SUITE_P(Steps, CalculationFailure, ::testing::Values(
             [](SystemData& data, SystemResults&) { data.AntennaGain = kInfinite; }, ""},
     Failure{"losses add up beyond a float",
             [](SystemData& data, SystemResults& results) {
-                data.CoaxLength = kLargest; data.CoaxLoss = 100.0F; results.ConnectorLoss = kLargest; }, ""},
+                data.CoaxLength = kLargest; data.CoaxLoss = 50.0F; results.ConnectorLoss = kLargest; }, ""},
     Failure{"gain and losses add up beyond a float",
             [](SystemData&, SystemResults& results) {
                 results.ConnectorLoss = -kLargest; results.AntennaGainDBd = kLargest; }, ""},
     Failure{"transmitter power is infinite",
             [](SystemData& data, SystemResults&) { data.XmitPower = kInfinite; }, "B........"},
+    Failure{"transmitter power is infinite though no table is entered",
+            [](SystemData& data, SystemResults&) {
+                data.XmitPower = kInfinite; data.CoaxLoss = 20.0F; data.VSWR = 4.0F; }, "B........"},
     Failure{"antenna multiplies the power beyond a float",
             [](SystemData& data, SystemResults&) { data.XmitPower = kLargest; }, "B........B.."}), support::RowName());
 
