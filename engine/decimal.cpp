@@ -59,7 +59,7 @@ void AddOneAtEnd(Decimal& number)
 {
     number.digits.erase(number.digits.find_last_not_of('9') + 1);
     if (number.digits.empty()) {
-        number.digits = "1";
+        number.digits.push_back('1');
         ++number.point;
     } else {
         ++number.digits.back();
