@@ -48,9 +48,8 @@ bool IsInRange(int key, int first, int last)
     return first <= key && key <= last;
 }
 
-bool HasKeyboardCodes()
+bool TellsPlaces(const QString& platform)
 {
-    const QString platform = QGuiApplication::platformName();
     return platform == QStringLiteral("xcb") || platform.startsWith(QStringLiteral("wayland"));
 }
 
@@ -66,13 +65,18 @@ int KeypadKey(int key)
 
 int VirtualKey(const QKeyEvent& event)
 {
+    return VirtualKey(event, QGuiApplication::platformName());
+}
+
+int VirtualKey(const QKeyEvent& event, const QString& platform)
+{
     const int key = event.key();
     if (event.modifiers().testFlag(Qt::KeypadModifier)) {
         if (const int code = KeypadKey(key); code != 0) {
             return code;
         }
     } else if (const quint32 place = event.nativeScanCode();
-               HasKeyboardCodes() && kFirstDigitKey <= place && place <= kLastDigitKey) {
+               TellsPlaces(platform) && kFirstDigitKey <= place && place <= kLastDigitKey) {
         // The digit row counts as digits whatever Shift or the keyboard's language make of it.
         return kDigitZero + static_cast<int>((place - kFirstDigitKey + 1) % 10);
     }

@@ -79,7 +79,7 @@ private:
     void TakeEnter();
     bool PopupKeyPress(QKeyEvent* event);
     bool PopupKeyRelease(QKeyEvent* event);
-    bool PopupEnter();
+    void TakePopupEnter(bool repeated);
     void HighlightText();
 
     CatalogueListBox* m_next = nullptr;

@@ -25,6 +25,13 @@ bool IsOneOf(const QKeyEvent& event, std::initializer_list<Qt::Key> keys)
     return std::ranges::find(keys, static_cast<Qt::Key>(event.key())) != keys.end();
 }
 
+/// Keys that close the drop-down list.
+bool ActsOnPopup(const QKeyEvent& event)
+{
+    const bool toggles = event.modifiers().testFlag(Qt::AltModifier) && IsOneOf(event, {Qt::Key_Up, Qt::Key_Down});
+    return toggles || IsEnter(event) || IsOneOf(event, {Qt::Key_F4, Qt::Key_Tab, Qt::Key_Backtab});
+}
+
 /// Keys that edit the text or move the caret even while the drop-down list is open.
 bool EditsText(const QKeyEvent& event)
 {
@@ -153,8 +160,8 @@ void CatalogueListBox::focusOutEvent(QFocusEvent* event)
         m_chosenByPopup = false;
         m_wheelTurn = 0;
     }
-    const bool comesBack =
-        reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
+    const bool comesBack = view()->isVisible() || reason == Qt::PopupFocusReason ||
+                           reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
     if (const int index = comesBack ? -1 : IndexEqualTo(currentText()); index >= 0) {
         setCurrentIndex(index);
     }
@@ -182,11 +189,20 @@ void CatalogueListBox::HighlightText()
 
 bool CatalogueListBox::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress) {
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        // Else the drop-down list would act on these keys here already, and the same key press would arrive again.
+        if (ActsOnPopup(*static_cast<QKeyEvent*>(event))) {
+            event->accept();
+            return true;
+        }
+        break;
+    case QEvent::KeyPress:
         return PopupKeyPress(static_cast<QKeyEvent*>(event));
-    }
-    if (event->type() == QEvent::KeyRelease) {
+    case QEvent::KeyRelease:
         return PopupKeyRelease(static_cast<QKeyEvent*>(event));
+    default:
+        break;
     }
     return QComboBox::eventFilter(watched, event);
 }
@@ -194,16 +210,18 @@ bool CatalogueListBox::eventFilter(QObject* watched, QEvent* event)
 bool CatalogueListBox::PopupKeyPress(QKeyEvent* event)
 {
     if (IsEnter(*event)) {
-        m_enterPressed = true;
-        return PopupEnter();
+        TakePopupEnter(event->isAutoRepeat());
+        return true;
+    }
+    if (ActsOnPopup(*event)) {
+        hidePopup();
+        if (IsOneOf(*event, {Qt::Key_Tab, Qt::Key_Backtab})) {
+            focusNextPrevChild(event->key() == Qt::Key_Tab);
+        }
+        return true;
     }
     if (EditsText(*event)) {
         keyPressEvent(event);
-        return true;
-    }
-    if (IsOneOf(*event, {Qt::Key_Tab, Qt::Key_Backtab})) {
-        hidePopup();
-        focusNextPrevChild(event->key() == Qt::Key_Tab);
         return true;
     }
     if (IsOneOf(*event, {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})) {
@@ -212,14 +230,17 @@ bool CatalogueListBox::PopupKeyPress(QKeyEvent* event)
     return false;
 }
 
-bool CatalogueListBox::PopupEnter()
+void CatalogueListBox::TakePopupEnter(bool repeated)
 {
-    m_chosenByPopup = !m_typedInPopup && view()->currentIndex().isValid();
-    if (m_chosenByPopup) {
-        return false;
+    if (repeated) {
+        return;
     }
+    // What was typed last counts: the text as in the closed list, or else the highlighted entry, at once.
+    const int highlighted = m_typedInPopup ? -1 : view()->currentIndex().row();
     hidePopup();
-    return true;
+    m_enterPressed = true;
+    m_chosenByPopup = highlighted >= 0;
+    Choose(highlighted);
 }
 
 bool CatalogueListBox::PopupKeyRelease(QKeyEvent* event)

@@ -74,11 +74,10 @@ QFont TitledFrame::TitleFont() const
         return font;
     }
     const TitleStep& title = kTitleSteps.at(static_cast<std::size_t>(m_step));
-    for (double factor = title.factor; factor >= m_smallest; factor -= kShrinkStep) {
+    double factor = title.factor;
+    while (factor > m_smallest && QFontMetrics(font).horizontalAdvance(PlainTitle()) > width()) {
+        factor = std::max(factor - kShrinkStep, m_smallest);
         font = ScaledFont(factor, title.weight);
-        if (QFontMetrics(font).horizontalAdvance(PlainTitle()) <= width()) {
-            break;
-        }
     }
     return font;
 }

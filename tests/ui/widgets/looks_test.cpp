@@ -1,0 +1,118 @@
+#include "tests/support/application_font.h"
+#include "ui/widgets/looks.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QLabel>
+
+namespace quillon::ui {
+namespace {
+
+QPalette Light()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(200, 200, 200));
+    palette.setColor(QPalette::WindowText, QColor(0, 0, 0));
+    palette.setColor(QPalette::Base, QColor(240, 240, 240));
+    palette.setColor(QPalette::Highlight, QColor(40, 140, 240));
+    return palette;
+}
+
+QPalette Dark()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(50, 50, 50));
+    palette.setColor(QPalette::WindowText, QColor(250, 250, 250));
+    palette.setColor(QPalette::Base, QColor(20, 20, 20));
+    palette.setColor(QPalette::Highlight, QColor(120, 220, 20));
+    return palette;
+}
+
+TEST(Fonts, BaseUnitIsAQuarterOfALine)
+{
+    const test::ApplicationFont font;
+    test::ApplicationFont::SetPixelSize(80);
+    EXPECT_EQ(BaseUnit(), qRound(QFontMetricsF(QApplication::font()).lineSpacing() / 4));
+    EXPECT_GT(BaseUnit(), 15);
+}
+
+TEST(Fonts, BaseUnitOfATinyFontIsFourPixels)
+{
+    const test::ApplicationFont font;
+    test::ApplicationFont::SetPixelSize(6);
+    EXPECT_EQ(BaseUnit(), 4);
+}
+
+TEST(Fonts, FontsScaleInPointsWhereTheDesktopSpeaksPoints)
+{
+    const test::ApplicationFont font;
+    test::ApplicationFont::SetPointSize(10);
+    EXPECT_DOUBLE_EQ(ScaledFont(1.4).pointSizeF(), 14);
+    EXPECT_EQ(ScaledFont(1.4, QFont::Bold).weight(), QFont::Bold);
+}
+
+TEST(Fonts, FontsScaleInPixelsWhereTheDesktopSpeaksPixels)
+{
+    const test::ApplicationFont font;
+    test::ApplicationFont::SetPixelSize(20);
+    EXPECT_EQ(ScaledFont(1.4).pixelSize(), 28);
+}
+
+TEST(Colors, DarkIsAWindowDarkerThanItsText)
+{
+    EXPECT_FALSE(IsDark(Light()));
+    EXPECT_TRUE(IsDark(Dark()));
+}
+
+TEST(Colors, LightPalette)
+{
+    EXPECT_EQ(CardColor(Light()), QColor(218, 218, 218));        // 200 + 0.45 * 40
+    EXPECT_EQ(HairlineColor(Light()), QColor(164, 164, 164));    // 200 - 0.18 * 200
+    EXPECT_EQ(OutlineColor(Light()), QColor(118, 118, 118));     // 200 - 0.41 * 200
+    EXPECT_EQ(EmptyMarkerColor(Light()), QColor(108, 108, 108)); // 200 - 0.46 * 200
+    EXPECT_EQ(QuietColor(Light()), QColor(60, 60, 60));          // 0 + 0.30 * 200
+    EXPECT_EQ(BetterColor(Light()), QColor(214, 227, 240));      // 240 + 0.13 * (40 - 240), (140 - 240), 0
+    EXPECT_EQ(FilledMarkerColor(Light()), QColor(40, 140, 240));
+}
+
+TEST(Colors, DarkPalette)
+{
+    EXPECT_EQ(CardColor(Dark()), QColor(57, 57, 57));           // 50 + 0.035 * 200
+    EXPECT_EQ(HairlineColor(Dark()), QColor(86, 86, 86));       // 50 + 0.18 * 200
+    EXPECT_EQ(OutlineColor(Dark()), QColor(132, 132, 132));     // 50 + 0.41 * 200
+    EXPECT_EQ(EmptyMarkerColor(Dark()), QColor(142, 142, 142)); // 50 + 0.46 * 200
+    EXPECT_EQ(QuietColor(Dark()), QColor(190, 190, 190));       // 250 - 0.30 * 200
+    EXPECT_EQ(BetterColor(Dark()), QColor(33, 46, 20));         // 20 + 0.13 * 100, 20 + 0.13 * 200, 0
+}
+
+TEST(Colors, StayWhenTheWindowLosesTheFocus)
+{
+    QPalette palette = Light();
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::gray);
+    palette.setCurrentColorGroup(QPalette::Inactive);
+    EXPECT_EQ(FilledMarkerColor(palette), QColor(40, 140, 240));
+    EXPECT_EQ(BetterColor(palette), QColor(214, 227, 240));
+}
+
+TEST(PlainToolTip, LeavesATextWithoutMarkupAlone)
+{
+    const QString formula = QStringLiteral("100 - 24.13 = 75.87 & 5 < 6");
+    EXPECT_EQ(PlainToolTip(formula), formula);
+}
+
+TEST(PlainToolTip, MarkupIsShownAsItStands)
+{
+    const QString safe = PlainToolTip(QStringLiteral("<b>bold</b>"));
+    EXPECT_TRUE(safe.contains(QStringLiteral("&lt;b&gt;bold&lt;/b&gt;")));
+    EXPECT_FALSE(safe.contains(QStringLiteral("<b>")));
+}
+
+TEST(PlainToolTip, NoTextIsNoToolTip)
+{
+    EXPECT_TRUE(PlainToolTip(QString()).isEmpty());
+}
+
+} // namespace
+} // namespace quillon::ui

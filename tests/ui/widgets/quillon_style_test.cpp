@@ -1,0 +1,159 @@
+#include "ui/widgets/looks.h"
+#include "ui/widgets/quillon_style.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QPixmapCache>
+#include <QPushButton>
+#include <QStyleFactory>
+
+#include <memory>
+
+namespace quillon::ui {
+namespace {
+
+/// Luminance contrast of two colours, 1 to 21.
+double Contrast(const QColor& one, const QColor& two)
+{
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    };
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(two) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+QPalette Dark()
+{
+    QPalette palette(QColor(64, 69, 74), QColor(42, 46, 50));
+    palette.setColor(QPalette::Base, QColor(27, 30, 32));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, QColor(252, 252, 252));
+    }
+    return palette;
+}
+
+class Styled : public testing::Test
+{
+protected:
+    void Dress(QWidget& widget)
+    {
+        widget.setStyle(&m_style);
+        widget.setPalette(Dark());
+        widget.resize(120, 30);
+    }
+
+    /// Colour of the outline in the middle of the upper edge.
+    static QColor Outline(QWidget& widget)
+    {
+        const QImage image = widget.grab().toImage();
+        return image.pixelColor(image.width() / 3, 0);
+    }
+
+    QuillonStyle m_style{QStyleFactory::create(QStringLiteral("fusion"))};
+};
+
+TEST_F(Styled, AnEmptyBoxIsSeenInADarkPalette)
+{
+    QLineEdit box;
+    Dress(box);
+    EXPECT_GE(Contrast(Outline(box), Dark().color(QPalette::Window)), 3.0);
+}
+
+TEST_F(Styled, AListHasTheSameOutlineAsABoxSoItIsNotTreatedTwice)
+{
+    QLineEdit box;
+    QComboBox list;
+    list.setEditable(true);
+    Dress(box);
+    Dress(list);
+    EXPECT_EQ(Outline(list), Outline(box));
+}
+
+TEST_F(Styled, ADisabledBoxKeepsItsOutlineOnTheWindowsColour)
+{
+    QLineEdit box;
+    Dress(box);
+    const QColor enabled = Outline(box);
+    box.setEnabled(false);
+    EXPECT_EQ(Outline(box), enabled);
+    EXPECT_EQ(box.grab().toImage().pixelColor(60, 15), Dark().color(QPalette::Disabled, QPalette::Window));
+}
+
+TEST_F(Styled, AnEnabledListDrawnAfterADisabledOneLooksEnabled)
+{
+    QComboBox first;
+    QComboBox second;
+    QComboBox alone;
+    for (QComboBox* list : {&first, &second, &alone}) {
+        list->addItem(QStringLiteral("BELDEN"));
+        Dress(*list);
+    }
+    const QImage expected = alone.grab().toImage();
+    first.setEnabled(false);
+    first.grab();
+    EXPECT_EQ(second.grab().toImage(), expected);
+}
+
+TEST_F(Styled, ReadOnlyBoxesHaveAHairline)
+{
+    QLineEdit box;
+    Dress(box);
+    const double live = Contrast(Outline(box), Dark().color(QPalette::Window));
+    box.setReadOnly(true);
+    EXPECT_LT(Contrast(Outline(box), Dark().color(QPalette::Window)), live - 1);
+}
+
+TEST_F(Styled, PaintingAgainPutsNothingNewIntoThePixmapCache)
+{
+    // The style asks the cache by the palette's key: one palette, one picture.
+    QStyleOptionComboBox option;
+    QComboBox list;
+    Dress(list);
+    list.grab();
+    const QPalette palette = list.palette();
+
+    struct Recorder : QProxyStyle
+    {
+        using QProxyStyle::QProxyStyle;
+
+        void drawComplexControl(ComplexControl, const QStyleOptionComplex* drawn, QPainter*,
+                                const QWidget*) const override
+        {
+            keys.append(drawn->palette.cacheKey());
+        }
+
+        mutable QList<qint64> keys;
+    };
+
+    auto* recorder = new Recorder(QStyleFactory::create(QStringLiteral("fusion")));
+    QuillonStyle style(recorder);
+    list.setStyle(&style);
+    list.grab();
+    list.grab();
+    ASSERT_EQ(recorder->keys.size(), 2);
+    EXPECT_EQ(recorder->keys[0], recorder->keys[1]);
+    EXPECT_NE(recorder->keys[0], palette.cacheKey());
+    list.setStyle(nullptr);
+}
+
+TEST_F(Styled, UncheckedCheckBoxesAreSeen)
+{
+    QCheckBox box;
+    Dress(box);
+    const QImage image = box.grab().toImage();
+    double best = 1;
+    for (int x = 0; x < 24; ++x) {
+        best = std::max(best, Contrast(image.pixelColor(x, 15), Dark().color(QPalette::Window)));
+    }
+    EXPECT_GE(best, 3.0);
+}
+
+} // namespace
+} // namespace quillon::ui
