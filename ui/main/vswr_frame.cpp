@@ -49,7 +49,7 @@ void VSWRFrame::Name()
 void VSWRFrame::LayOut()
 {
     m_text->SetDialled(true);
-    m_text->setReadOnly(true);
+    m_text->SetByArrowsOnly();
     m_suffix->setReadOnly(true);
     m_suffix->setFrame(false);
     m_suffix->setFocusPolicy(Qt::NoFocus);
