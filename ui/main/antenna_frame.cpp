@@ -1,5 +1,6 @@
 #include "ui/main/antenna_frame.h"
 
+#include "engine/arithmetic_error.h"
 #include "engine/bands.h"
 #include "engine/mask.h"
 #include "engine/number_text.h"
@@ -129,6 +130,7 @@ void AntennaFrame::BandChosen()
         m_lists[Band]->ClearMark();
     } else {
         m_lists[Band]->Mark(TooLarge(m_lists[Band]->currentText()));
+        m_port.ShowFrequency(Data().Frequency, kBandFrequencyMask);
     }
 }
 
@@ -142,18 +144,21 @@ void AntennaFrame::TakeBand()
     Data().GainType = Work().Catalogue().LoadAntennaGainType(maker, model);
     Data().AntennaGain = engine::GainToDBd(GainOfBand(), Data().GainType);
     Work().Results(System()).AntennaGainDBd = Data().AntennaGain;
-    const QString gain = Work().Shortest(Data().AntennaGain);
-    m_line->Fact(0)->setText(QStringLiteral("Gain = %1 dbd").arg(gain));
 
     Data().Frequency =
         engine::RoundWithMask(engine::FrequencyForBand(m_lists[Band]->ChosenName().toStdString()), kBandFrequencyMask);
-    m_port.ShowFrequency(Data().Frequency, kBandFrequencyMask);
-    m_port.ShowAntennaStatus(QStringLiteral("%1 Antenna").arg(gain));
+    if (!m_port.ShowFrequency(Data().Frequency, kBandFrequencyMask)) {
+        throw engine::ArithmeticError("the antenna's gain cannot be computed with");
+    }
     if (Data().UseCoaxList != engine::kFalse) {
         m_port.RunCoaxTypeAgain();
     }
     m_port.SetFrequencyFollowsBand(true);
     Work().RefreshData(System());
+
+    const QString gain = Work().Shortest(Data().AntennaGain);
+    m_line->Fact(0)->setText(QStringLiteral("Gain = %1 dbd").arg(gain));
+    m_port.ShowAntennaStatus(QStringLiteral("%1 Antenna").arg(gain));
 }
 
 float AntennaFrame::GainOfBand() const

@@ -72,8 +72,7 @@ void AntennaGainFrame::txtAntennaGain_Change()
 void AntennaGainFrame::vsAntennaGain_Change()
 {
     // As given, both controls read the coarse one: the fine one moves without an effect of its own.
-    Data().AntennaGain = static_cast<float>(m_coarse->value()) / 10;
-    ShowGain(engine::SpinToAntennaGain(Data().AntennaGain).value);
+    ShowGain(engine::SpinToAntennaGain(static_cast<float>(m_coarse->value()) / 10).value);
 }
 
 void AntennaGainFrame::optAntenna_Click(bool user)

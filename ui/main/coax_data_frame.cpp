@@ -85,16 +85,14 @@ QList<QWidget*> CoaxDataFrame::TabOrder() const
 
 void CoaxDataFrame::vsCoaxLength_Change()
 {
-    const float feet = engine::SpinToCoaxLength(static_cast<float>(m_lengthSpin->value())).value;
-    Data().CoaxLength = feet;
-    ShowLength(feet);
-    Compute(*m_length, [] {});
+    ShowLength(engine::SpinToCoaxLength(static_cast<float>(m_lengthSpin->value())).value);
+    ComputeAgain(*m_length);
 }
 
 void CoaxDataFrame::vsNumConnectors_Change()
 {
     TakeConnectorPosition();
-    Compute(*m_connectors, [] {});
+    ComputeAgain(*m_connectors);
 }
 
 void CoaxDataFrame::txtCoaxLength_Change()

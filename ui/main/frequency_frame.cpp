@@ -61,9 +61,10 @@ void FrequencyFrame::TakeSpinFrequency()
     ShowFrequency(megahertz, kFrequencyMask);
 }
 
-void FrequencyFrame::ShowFrequency(float megahertz, std::string_view mask)
+bool FrequencyFrame::ShowFrequency(float megahertz, std::string_view mask)
 {
     WriteBox(*m_text, Work().Masked(megahertz, mask), [this] { txtFrequency_Change(); });
+    return !m_text->IsMarked();
 }
 
 void FrequencyFrame::SetFollowsBand(bool follows)

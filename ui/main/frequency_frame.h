@@ -19,8 +19,8 @@ public:
 
     /// Takes the working frequency of the spin control's position.
     void TakeSpinFrequency();
-    /// Writes the box; its change handler stores the figure.
-    void ShowFrequency(float megahertz, std::string_view mask);
+    /// Writes the box; its change handler stores the figure. @return whether the figure could be computed with.
+    bool ShowFrequency(float megahertz, std::string_view mask);
     /// A frequency that follows the chosen band is not for typing or turning.
     void SetFollowsBand(bool follows);
     [[nodiscard]] QList<QWidget*> TabOrder() const;

@@ -39,6 +39,13 @@ void InputFrame::Compute(NumberBox& box, const std::function<void()>& change)
     }
 }
 
+void InputFrame::ComputeAgain(NumberBox& box)
+{
+    if (!box.IsMarked()) {
+        Compute(box, [] {});
+    }
+}
+
 void InputFrame::WriteBox(NumberBox& box, const QString& text, const std::function<void()>& changeHandler)
 {
     if (box.text() == text) {

@@ -30,7 +30,11 @@ protected:
     /// Stores a change and computes anew; marks the box when it cannot be computed with.
     void Compute(NumberBox& box, const std::function<void()>& change);
 
-    /// Writes a box's text and has its change handler run once, also when the text stays the same.
+    /// Computes anew what the box's own handler has computed already; nothing when that could not take the text.
+    void ComputeAgain(NumberBox& box);
+
+    /// Writes a box's text and has its change handler run once, also when the text stays the same. The handler alone
+    /// stores the figure: one that cannot be computed with must not reach the record on another way.
     static void WriteBox(NumberBox& box, const QString& text, const std::function<void()>& changeHandler);
 
 private:

@@ -25,9 +25,9 @@ SystemColumn::SystemColumn(engine::SystemId system, Workspace& workspace, Result
     m_coax->SetNext(m_antenna->FirstList());
 }
 
-void SystemColumn::ShowFrequency(float megahertz, std::string_view mask)
+bool SystemColumn::ShowFrequency(float megahertz, std::string_view mask)
 {
-    m_frequency->ShowFrequency(megahertz, mask);
+    return m_frequency->ShowFrequency(megahertz, mask);
 }
 
 void SystemColumn::SetFrequencyFollowsBand(bool follows)

@@ -19,7 +19,7 @@ class SystemColumn : public QObject, public SystemPort
 public:
     SystemColumn(engine::SystemId system, Workspace& workspace, ResultsFrame& results, QWidget* parent);
 
-    void ShowFrequency(float megahertz, std::string_view mask) override;
+    bool ShowFrequency(float megahertz, std::string_view mask) override;
     void SetFrequencyFollowsBand(bool follows) override;
     void RunCoaxTypeAgain() override;
     void ShowAntennaStatus(const QString& text) override;

@@ -12,8 +12,8 @@ class SystemPort
 public:
     virtual ~SystemPort() = default;
 
-    /// Writes the system's frequency box, which stores the figure and computes anew.
-    virtual void ShowFrequency(float megahertz, std::string_view mask) = 0;
+    /// Writes the system's frequency box, which stores the figure and computes anew. @return whether it could.
+    virtual bool ShowFrequency(float megahertz, std::string_view mask) = 0;
     /// Whether the frequency follows the chosen band, or is for typing and turning.
     virtual void SetFrequencyFollowsBand(bool follows) = 0;
     /// Runs the choice of the coax type again, so that its loss follows the frequency.

@@ -102,9 +102,7 @@ void XmitPowerFrame::vsOutputPower_FineChange()
 
 void XmitPowerFrame::TakePosition(float position)
 {
-    const float watts = engine::SpinToOutputPower(position).value;
-    Data().XmitPower = watts;
-    ShowPower(watts);
+    ShowPower(engine::SpinToOutputPower(position).value);
 }
 
 void XmitPowerFrame::txtOutputPower_Change()
