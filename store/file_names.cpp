@@ -15,14 +15,15 @@ namespace {
 /// As many as the system itself follows.
 constexpr int kMostLinks = 40;
 
-std::vector<std::string> ListNames(const fs::path& folder,
-                                   const std::function<bool(const fs::directory_entry&)>& wanted)
+/// @param isWanted  tells of a directory entry whether it is to be listed.
+template <class Predicate>
+std::vector<std::string> ListNames(const fs::path& folder, const Predicate& isWanted)
 {
     std::vector<std::string> names;
     std::error_code error;
     for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
          !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        if (wanted(*entry)) {
+        if (isWanted(*entry)) {
             names.push_back(entry->path().filename().string());
         }
     }

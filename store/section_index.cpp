@@ -3,6 +3,7 @@
 #include "store/profile_lines.h"
 
 #include <algorithm>
+#include <bit>
 #include <iterator>
 #include <limits>
 #include <numeric>
@@ -12,7 +13,9 @@ namespace {
 
 /// Up to here a walk over all names is as quick as a table.
 constexpr std::size_t kFewSections = 32;
-constexpr std::size_t kFirstTableSize = 128;
+/// A table for one name in that many bytes takes a quarter of the text's memory at most; it grows when names are
+/// shorter.
+constexpr std::size_t kBytesPerName = 64;
 constexpr std::uint32_t kFree = std::numeric_limits<std::uint32_t>::max();
 
 /// Begin of the line of which the character at an offset is the first but for blanks; nothing when it is not.
@@ -92,7 +95,8 @@ std::optional<std::size_t> SectionIndex::FindPlace(std::string_view text, std::s
 
 void SectionIndex::BuildTable(std::string_view text)
 {
-    m_table.assign(kFirstTableSize, kFree);
+    const std::size_t names = std::min(m_headers.size(), text.size() / kBytesPerName + 1);
+    m_table.assign(std::bit_ceil(2 * names), kFree);
     std::size_t used = 0;
     for (std::size_t place = 0; place < m_headers.size(); ++place) {
         const std::size_t slot = Slot(text, Name(text, place));

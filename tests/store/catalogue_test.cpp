@@ -6,8 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace quillon::store {
 namespace {
@@ -25,7 +26,7 @@ protected:
         fs::create_directory(m_folder / "Coax");
     }
 
-    Names Antennas() const
+    [[nodiscard]] Names Antennas() const
     {
         Names names;
         for (const auto& entry : fs::directory_iterator(m_folder / "Antennas")) {
@@ -131,8 +132,14 @@ TEST_F(CatalogueTest, MakerWithoutAFileGetsAnEmptyOneAsGiven)
     EXPECT_EQ(m_folder.Get("Coax/NEW.DAT"), "");
 }
 
+struct HostileRow
+{
+    const char* name;
+    const char* maker;
+};
+
 /// Names that must not become part of a path.
-class HostileMaker : public CatalogueTest, public ::testing::WithParamInterface<const char*>
+class HostileMaker : public CatalogueTest, public ::testing::WithParamInterface<HostileRow>
 {
 };
 
@@ -141,7 +148,7 @@ TEST_P(HostileMaker, HasNothingAndReachesNoFile)
     m_folder.Put("secret.DAT", "[m]\nGainType=dBi\nGain20=1\nLoss1=1\nK1=1\n");
     BandTable table;
     std::array<float, 9> coaxSpec{};
-    const std::string maker = GetParam();
+    const std::string maker = GetParam().maker;
     EXPECT_EQ(m_catalogue.LoadAntennas(maker), Names());
     EXPECT_EQ(m_catalogue.LoadAntennaGainType(maker, "m"), "");
     EXPECT_EQ(m_catalogue.LoadAntennaGain(maker, "m", table), Names());
@@ -154,9 +161,47 @@ TEST_P(HostileMaker, HasNothingAndReachesNoFile)
     EXPECT_TRUE(fs::is_empty(m_folder / "Coax"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, HostileMaker,
-                         ::testing::Values("", "../secret", "a/../../secret", "..\\secret", ".", "..", "a|b", "a\nb",
-                                           " ", "a.", "/etc/passwd"));
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Names, HostileMaker, ::testing::Values(
+    HostileRow{"empty", ""},
+    HostileRow{"way out of the folder", "../secret"},
+    HostileRow{"way out of the folder by a detour", "a/../../secret"},
+    HostileRow{"way out of the folder with backslash", "..\\secret"},
+    HostileRow{"the folder itself", "."},
+    HostileRow{"the folder above", ".."},
+    HostileRow{"two makers", "a|b"},
+    HostileRow{"line end", "a\nb"},
+    HostileRow{"blank", " "},
+    HostileRow{"point at the end", "a."},
+    HostileRow{"path from the root", "/etc/passwd"}), support::RowName());
+
+// clang-format on
+
+/// A folder that takes no new files.
+class ReadOnlyCalls : public FileCalls
+{
+public:
+    int Open(const char* path, int flags, mode_t mode) override
+    {
+        if ((flags & O_CREAT) != 0) {
+            errno = EROFS;
+            return -1;
+        }
+        return FileCalls::Open(path, flags, mode);
+    }
+};
+
+TEST_F(CatalogueTest, FolderThatTakesNoFilesGivesEmptyListsForMissingMakersAndReadsTheOthers)
+{
+    m_folder.Put("Antennas/W.DAT", "[m]\nGainType=dBd\n");
+    ReadOnlyCalls calls;
+    const Catalogue catalogue(ProgramFolder(m_folder / "Quillon"), std::make_shared<ProfileStore>(calls));
+    EXPECT_EQ(catalogue.LoadAntennas("NEW"), Names());
+    EXPECT_EQ(catalogue.LoadCableTypes("NEW"), Names());
+    EXPECT_EQ(catalogue.LoadAntennas("W"), Names{"m"});
+    EXPECT_EQ(catalogue.LoadAntennaGainType("W", "m"), "dBd");
+    EXPECT_EQ(Antennas(), Names{"W.DAT"});
+}
 
 TEST_F(CatalogueTest, MissingFoldersGiveEmptyListsAndNoError)
 {
@@ -186,7 +231,7 @@ class BandTableTest : public CatalogueTest
 protected:
     Names Load(std::string_view model) { return m_catalogue.LoadAntennaGain("W", model, m_table); }
 
-    const BandColumn& Column(std::string_view band) const
+    [[nodiscard]] const BandColumn& Column(std::string_view band) const
     {
         for (std::size_t place = 0; place < kBandSuffixes.size(); ++place) {
             if (kBandSuffixes.at(place) == band) {

@@ -27,7 +27,7 @@ TEST_P(TakenEntryName, ReadsBackAsSectionAndAsValue)
 {
     ASSERT_EQ(EntryNameFault(GetParam().entry), NameFault::None);
     const std::string bytes = FromUtf8(GetParam().entry).value();
-    const support::TempFolder folder;
+    support::TempFolder folder;
     ProfileStore store;
     INIManager manager(store);
     manager.FileName((folder / "f.dat").string());

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -177,8 +178,8 @@ TEST_F(ReadFileTest, StampsTellReplacedChangedAndTouchedFilesApart)
     m_folder.Put("f", "texts");
     EXPECT_EQ(InspectFile(m_calls, file.c_str()).stamp.size, 5);
 
-    const timespec times[2] = {{1000, 7}, {1000, 7}};
-    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+    const std::array<timespec, 2> times{{{1000, 7}, {1000, 7}}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times.data(), 0), 0);
     EXPECT_EQ(InspectFile(m_calls, file.c_str()).stamp.modified, 1'000'000'000'007);
 }
 

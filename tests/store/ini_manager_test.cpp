@@ -216,7 +216,7 @@ public:
 
 TEST(INIManager, TrapsErrorsInValuesAndDeletesButNotInLists)
 {
-    const support::TempFolder folder;
+    support::TempFolder folder;
     const std::string file = folder.Put("f.DAT", "[s]\nk=v\n").string();
     ThrowingCalls calls;
     ProfileStore store(calls);

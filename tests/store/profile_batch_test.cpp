@@ -161,12 +161,12 @@ ProfileEdit RandomEdit(std::mt19937& random)
 TEST_F(ProfileBatchTest, LeavesTheBytesThatWritingKeyByKeyLeaves)
 {
     constexpr const char* kStart = "x\n;c\n[a]\n\n b = 1\n\n[b]\rc c=2";
-    for (unsigned seed = 0; seed < 60; ++seed) {
+    for (unsigned seed = 0; seed < 15; ++seed) {
         m_folder.Put("f.dat", kStart);
         m_folder.Put("g.dat", kStart);
         std::mt19937 random(seed);
         ProfileBatch batch(m_store, m_file);
-        for (int number = 0; number < 30; ++number) {
+        for (int number = 0; number < 20; ++number) {
             const ProfileEdit edit = RandomEdit(random);
             ASSERT_TRUE(m_store.Edit(m_file, edit));
             ASSERT_TRUE(m_store.Edit(m_folder / "g.dat", edit));

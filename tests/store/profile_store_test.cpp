@@ -229,7 +229,7 @@ TEST_F(ProfileStoreTest, CreatesNothingBehindALinkThatLeadsNowhere)
 
 TEST(ProfileStore, WorksOnTheSystemsCallsByItself)
 {
-    const support::TempFolder folder;
+    support::TempFolder folder;
     ProfileStore store;
     EXPECT_TRUE(store.Edit(folder / "f.dat", {"s", "k", "1"}));
     EXPECT_EQ(store.Read(folder / "f.dat").Value("s", "k"), "1");

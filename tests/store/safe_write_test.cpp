@@ -1,6 +1,7 @@
 #include "store/safe_write.h"
 
 #include "tests/store/failing_calls.h"
+#include "tests/support/row_name.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -90,8 +91,14 @@ TEST_F(ReplaceFileTest, WorksOnANameWithoutFolder)
     EXPECT_EQ(m_folder.Get("f.dat"), "new");
 }
 
+struct ErrorRow
+{
+    const char* name;
+    int error;
+};
+
 /// Each call of a write up to the one that puts the new file in place fails once with each error.
-class ReplaceFileFailure : public ReplaceFileTest, public ::testing::WithParamInterface<int>
+class ReplaceFileFailure : public ReplaceFileTest, public ::testing::WithParamInterface<ErrorRow>
 {
 };
 
@@ -99,7 +106,7 @@ TEST_P(ReplaceFileFailure, LeavesTheOldFileAndNoTemporaryOne)
 {
     for (int number = 1; number <= kRename; ++number) {
         m_folder.Put("f.dat", "old");
-        m_calls.FailAt(number, GetParam());
+        m_calls.FailAt(number, GetParam().error);
         EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new")) << number;
         EXPECT_EQ(m_folder.Get("f.dat"), "old") << number;
         EXPECT_EQ(m_folder.Names(), Names{"f.dat"}) << number;
@@ -109,13 +116,22 @@ TEST_P(ReplaceFileFailure, LeavesTheOldFileAndNoTemporaryOne)
 TEST_P(ReplaceFileFailure, AtTheFoldersSyncIsReportedThoughTheNewFileStands)
 {
     m_folder.Put("f.dat", "old");
-    m_calls.FailAt(kFolderSync, GetParam());
+    m_calls.FailAt(kFolderSync, GetParam().error);
     EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
     EXPECT_EQ(m_folder.Get("f.dat"), "new");
     EXPECT_EQ(m_folder.Names(), Names{"f.dat"});
 }
 
-INSTANTIATE_TEST_SUITE_P(Errors, ReplaceFileFailure, ::testing::Values(EIO, ENOSPC, EDQUOT, EACCES, EROFS, ENOMEM));
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Errors, ReplaceFileFailure, ::testing::Values(
+    ErrorRow{"damaged disk", EIO},
+    ErrorRow{"full disk", ENOSPC},
+    ErrorRow{"quota used up", EDQUOT},
+    ErrorRow{"no permission", EACCES},
+    ErrorRow{"read-only file system", EROFS},
+    ErrorRow{"no memory", ENOMEM}), support::RowName());
+
+// clang-format on
 
 TEST_F(ReplaceFileTest, GoesOnWhenACallIsInterrupted)
 {
@@ -263,7 +279,7 @@ TEST_F(ReplaceFileTest, FailsOnLinksThatGoRoundInACircle)
 
 TEST(CreateEmptyFile, CreatesTheFile)
 {
-    const support::TempFolder folder;
+    support::TempFolder folder;
     FileCalls calls;
     CreateEmptyFile(calls, folder / "f.dat");
     EXPECT_EQ(folder.Get("f.dat"), "");
@@ -271,14 +287,14 @@ TEST(CreateEmptyFile, CreatesTheFile)
 
 TEST(CreateEmptyFile, ThrowsInAMissingFolder)
 {
-    const support::TempFolder folder;
+    support::TempFolder folder;
     FileCalls calls;
     EXPECT_THROW(CreateEmptyFile(calls, folder / "missing/f.dat"), std::system_error);
 }
 
 TEST(CreateEmptyFile, ThrowsOnAFileThatIsThereAndLeavesIt)
 {
-    const support::TempFolder folder;
+    support::TempFolder folder;
     folder.Put("f.dat", "old");
     FileCalls calls;
     EXPECT_THROW(CreateEmptyFile(calls, folder / "f.dat"), std::system_error);

@@ -81,7 +81,8 @@ TEST_P(SectionIndexSize, FindsEverySectionByNameInAnyCase)
     EXPECT_FALSE(index.Find(text, "Sec"));
 }
 
-INSTANTIATE_TEST_SUITE_P(FewAndMany, SectionIndexSize, ::testing::Values(1, 16, 17, 64, 65, 5000));
+INSTANTIATE_TEST_SUITE_P(FewAndMany, SectionIndexSize, ::testing::Values(1, 16, 17, 64, 65, 5000),
+                         ::testing::PrintToStringParamName());
 
 TEST(SectionIndex, FindsNamesAmongManyThatDifferInCaseOnly)
 {

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] std::filesystem::path operator/(std::string_view name) const { return m_path / name; }
 
     /// Writes a file in place, with the folders that lead to it.
-    std::filesystem::path Put(std::string_view name, std::string_view bytes) const
+    std::filesystem::path Put(std::string_view name, std::string_view bytes)
     {
         std::filesystem::path file = m_path / name;
         std::filesystem::create_directories(file.parent_path());
