@@ -87,7 +87,10 @@ class QuillonWindow:
         return self
 
     def __exit__(self, *_):
+        code = self._process.poll()
         self.close()
+        if code:
+            raise NotSeen(f"the program in good health: it ended with {code}")
 
     def close(self):
         """Ends the program."""
