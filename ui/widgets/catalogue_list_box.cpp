@@ -34,7 +34,7 @@ CatalogueListBox::CatalogueListBox(QWidget* parent)
     // What leaving the list chooses is decided in one place, by focusOutEvent; the box's own rule would also choose
     // when the drop-down list opens or another program comes to the front.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-    connect(lineEdit(), &QLineEdit::textEdited, this, &CatalogueListBox::OnTextEdited);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &CatalogueListBox::HighlightText);
     connect(this, &QComboBox::currentIndexChanged, this, &CatalogueListBox::OnIndexChanged);
     connect(this, &QComboBox::activated, this, &CatalogueListBox::OnActivated);
 }
@@ -128,11 +128,6 @@ void CatalogueListBox::OnActivated(int index)
         ShowFromStart();
         emit Chosen();
     }
-}
-
-void CatalogueListBox::OnTextEdited()
-{
-    m_typedInPopup = true;
 }
 
 void CatalogueListBox::ShowFromStart()

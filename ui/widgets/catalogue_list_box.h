@@ -69,7 +69,6 @@ protected:
 private:
     void OnIndexChanged(int index);
     void OnActivated(int index);
-    void OnTextEdited();
     void ShowFromStart();
 
     [[nodiscard]] int IndexEqualTo(const QString& text) const;
@@ -87,7 +86,7 @@ private:
     bool m_announced = false;     ///< the choice that is being made has been announced already
     bool m_enterPressed = false;  ///< Enter went down here, so that its release belongs here too
     bool m_chosenByPopup = false; ///< the drop-down list has made the choice that Enter stands for
-    bool m_typedInPopup = false;  ///< the text counts for Enter, not the highlighted entry
+    bool m_markedBelow = false;   ///< the text was wholly marked when the drop-down list opened
     int m_wheelTurn = 0;          ///< turn that has not made a whole step yet, eighths of a degree
 };
 

@@ -146,7 +146,9 @@ void CatalogueListBox::focusInEvent(QFocusEvent* event)
 {
     QComboBox::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
-    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+    const bool arrives =
+        reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    if (std::exchange(m_markedBelow, false) || arrives) {
         ShowFromStart();
     }
 }
@@ -171,11 +173,12 @@ void CatalogueListBox::focusOutEvent(QFocusEvent* event)
 void CatalogueListBox::showPopup()
 {
     m_announced = false;
-    m_typedInPopup = false;
     view()->installEventFilter(this);
     const int wanted =
         view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width()));
+    // The open list takes the focus, and with it the mark; what is typed next replaces the whole text all the same.
+    m_markedBelow = lineEdit()->hasSelectedText() && lineEdit()->selectedText() == currentText();
     QComboBox::showPopup();
     HighlightText();
 }
@@ -221,11 +224,11 @@ bool CatalogueListBox::PopupKeyPress(QKeyEvent* event)
         return true;
     }
     if (EditsText(*event)) {
+        if (std::exchange(m_markedBelow, false)) {
+            lineEdit()->selectAll();
+        }
         keyPressEvent(event);
         return true;
-    }
-    if (IsOneOf(*event, {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})) {
-        m_typedInPopup = false;
     }
     return false;
 }
@@ -235,8 +238,7 @@ void CatalogueListBox::TakePopupEnter(bool repeated)
     if (repeated) {
         return;
     }
-    // What was typed last counts: the text as in the closed list, or else the highlighted entry, at once.
-    const int highlighted = m_typedInPopup ? -1 : view()->currentIndex().row();
+    const int highlighted = view()->currentIndex().row();
     hidePopup();
     m_enterPressed = true;
     m_chosenByPopup = highlighted >= 0;
@@ -249,9 +251,6 @@ bool CatalogueListBox::PopupKeyRelease(QKeyEvent* event)
         return false;
     }
     keyReleaseEvent(event);
-    if (m_typedInPopup) {
-        HighlightText();
-    }
     return true;
 }
 

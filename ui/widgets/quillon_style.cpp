@@ -37,11 +37,11 @@ bool IsTextBox(QStyle::PrimitiveElement element)
 
 } // namespace
 
-void QuillonStyle::Install(QApplication& application)
+void QuillonStyle::Install(QApplication& /*application*/)
 {
     const QString name = QApplication::style()->name();
     if (name.compare(QStringLiteral("fusion"), Qt::CaseInsensitive) == 0) {
-        application.setStyle(new QuillonStyle(QStyleFactory::create(name)));
+        QApplication::setStyle(new QuillonStyle(QStyleFactory::create(name)));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QToolTip>
 
@@ -108,7 +109,9 @@ QSize TitledFrame::minimumSizeHint() const
 {
     const QString insists = PlainTitle().left(kShortTitle);
     const int width = QFontMetrics(FontOf(kSteps - 1)).horizontalAdvance(insists);
-    return QWidget::minimumSizeHint().expandedTo({width, TitleHeight()});
+    // Not the group box's own: it insists on the whole title and on room for the box that is not drawn.
+    const QSize contents = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
+    return contents.expandedTo({width, TitleHeight()});
 }
 
 bool TitledFrame::event(QEvent* event)
@@ -132,10 +135,9 @@ void TitledFrame::paintEvent(QPaintEvent* /*event*/)
                      ShownTitle());
 }
 
-void TitledFrame::resizeEvent(QResizeEvent* event)
+void TitledFrame::resizeEvent(QResizeEvent* /*event*/)
 {
-    // Not the group box's own: it would lay out its contents for the box that is not drawn.
-    QWidget::resizeEvent(event);
+    // The group box's own would lay out the contents for the box that is not drawn.
 }
 
 void TitledFrame::changeEvent(QEvent* event)

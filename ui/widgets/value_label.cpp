@@ -44,6 +44,9 @@ struct Column
     [[nodiscard]] double Narrow() const { return 2 * margin + whole + separator + fraction; }
 
     [[nodiscard]] double Full() const { return Narrow() + unit; }
+
+    /// Left of the separator's middle, margin included.
+    [[nodiscard]] double UsualLeft() const { return margin + whole + separator / 2; }
 };
 
 Column ColumnWidths()
@@ -59,7 +62,7 @@ Column ColumnWidths()
 /// either side.
 double SeparatorIn(const Column& column, double width)
 {
-    return column.margin + column.whole + column.separator / 2 + std::max(0.0, width - column.Full()) / 2;
+    return column.UsualLeft() + std::max(0.0, width - column.Full()) / 2;
 }
 
 /// Room that a number takes left of the separator's middle.
@@ -94,9 +97,9 @@ void ValueLabel::setText(const QString& text)
     if (text == this->text()) {
         return;
     }
-    const int usual = HintWidth(false);
+    const double before = NeededLeft();
     QLabel::setText(text);
-    if (HintWidth(false) != usual) {
+    if (std::max(before, NeededLeft()) > ColumnWidths().UsualLeft()) {
         for (ValueLabel* label : Neighbours()) {
             label->updateGeometry();
         }
@@ -151,7 +154,12 @@ QList<ValueLabel*> ValueLabel::Neighbours() const
 
 double ValueLabel::NeededLeft() const
 {
-    return LeftOf(DigitCells(ValueFont(Size::Row, true)), SplitNumber(text())) + BaseUnit();
+    // Measured once per value: every hint of every label asks all labels for it.
+    if (m_measured != text()) {
+        m_measured = text();
+        m_neededLeft = LeftOf(DigitCells(ValueFont(Size::Row, true)), SplitNumber(text())) + BaseUnit();
+    }
+    return m_neededLeft;
 }
 
 int ValueLabel::HintWidth(bool withUnit) const
@@ -162,7 +170,7 @@ int ValueLabel::HintWidth(bool withUnit) const
     for (const ValueLabel* label : Neighbours()) {
         needed = std::max(needed, label->NeededLeft());
     }
-    const double missing = needed - SeparatorIn(column, usual);
+    const double missing = needed - column.UsualLeft();
     // Beyond the full width every second pixel goes to the left of the separator.
     return static_cast<int>(std::ceil(missing > 0 ? column.Full() + 2 * missing : usual));
 }
@@ -182,6 +190,7 @@ QSize ValueLabel::minimumSizeHint() const
 bool ValueLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ApplicationFontChange) {
+        m_measured.reset();
         ApplyFont();
         updateGeometry();
     }

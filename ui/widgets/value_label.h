@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include <optional>
+
 namespace quillon::ui {
 
 /// One result value. text() is the value's text; it is painted digit by digit so that the decimal separators of all
@@ -53,6 +55,8 @@ private:
     Size m_size;
     QString m_unit;
     bool m_better = false;
+    mutable std::optional<QString> m_measured; ///< text that m_neededLeft was measured for
+    mutable double m_neededLeft = 0;
 };
 
 } // namespace quillon::ui

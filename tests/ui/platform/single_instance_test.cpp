@@ -22,7 +22,7 @@ protected:
 
     [[nodiscard]] std::filesystem::path Folder() const { return m_folder.path().toStdString(); }
 
-    [[nodiscard]] QDir Entries() const { return QDir(m_folder.path()); }
+    [[nodiscard]] QDir Entries() const { return {m_folder.path()}; }
 
 private:
     QTemporaryDir m_folder;

@@ -195,6 +195,12 @@ TEST_F(ListWindow, LongEntriesDoNotWidenTheList)
     EXPECT_EQ(m_list->minimumSizeHint(), before);
 }
 
+TEST_F(ListWindow, AnEmptyListAsksForRoomForAFewCharacters)
+{
+    m_list->Empty();
+    EXPECT_GT(m_list->sizeHint().width(), m_list->fontMetrics().horizontalAdvance(QStringLiteral("XXXXXXXX")));
+}
+
 TEST_F(ListWindow, MarkupInAnEntryStaysText)
 {
     m_list->Fill(Entries({QStringLiteral("<b>A && B</b>")}));

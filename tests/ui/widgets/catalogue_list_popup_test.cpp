@@ -109,6 +109,16 @@ TEST_F(OpenList, TypingAndEnterChooseOnceAndGoOn)
     EXPECT_TRUE(IsOpen(*m_next));
 }
 
+TEST_F(OpenList, EnterBeforeTheTypedKeyIsReleasedTakesTheTextAsItStands)
+{
+    m_list->Choose(0);
+    Open();
+    test::Press(m_window, Qt::Key_H);
+    Click(Qt::Key_Return);
+    EXPECT_EQ(Text(), QStringLiteral("H"));
+    EXPECT_EQ(Chosen(), 0);
+}
+
 TEST_F(OpenList, UnknownTypedTextAndEnterSelectNothing)
 {
     m_list->Choose(1);
@@ -149,6 +159,7 @@ TEST_F(OpenList, EscClosesAndChoosesNothing)
     Click(Qt::Key_Escape);
     EXPECT_FALSE(IsOpen(*m_list));
     EXPECT_EQ(m_list->currentIndex(), 1);
+    EXPECT_TRUE(MarkedFromStart());
     EXPECT_EQ(Text(), QStringLiteral("Hamstick"));
     EXPECT_EQ(Chosen(), 0);
 }

@@ -1,3 +1,4 @@
+#include "tests/support/application_font.h"
 #include "tests/support/shown_window.h"
 #include "ui/widgets/spin_control.h"
 
@@ -193,13 +194,31 @@ TEST_F(Spin, IsASliderToScreenReaders)
     EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 1400);
 }
 
-TEST_F(Spin, CoarseAndFineCanBeToldApart)
+/// Number of strokes that a line down the middle of the upper arrow crosses.
+int Chevrons(SpinLook look)
 {
-    SpinControl fine({-10, 1499, 1400, 10, 10}, SpinLook::Fine);
-    SpinControl coarse({-10, 1499, 1400, 10, 10}, SpinLook::Coarse);
-    fine.resize(20, 30);
-    coarse.resize(20, 30);
-    EXPECT_NE(fine.grab().toImage(), coarse.grab().toImage());
+    SpinControl spin({0, 10, 5, 1, 1}, look);
+    spin.resize(spin.sizeHint().width(), 2 * spin.sizeHint().height());
+    const QImage image = spin.grab().toImage();
+    const int ink = spin.palette().color(QPalette::ButtonText).lightness();
+    const int panel = image.pixelColor(spin.width() / 5, spin.height() / 4).lightness();
+    int strokes = 0;
+    bool inStroke = false;
+    for (int y = 2; y < spin.UpArrow().bottom() - 2; ++y) {
+        const int here = image.pixelColor(spin.width() / 2, y).lightness();
+        const bool stroke = std::abs(here - ink) < std::abs(here - panel);
+        strokes += stroke && !inStroke ? 1 : 0;
+        inStroke = stroke;
+    }
+    return strokes;
+}
+
+TEST_F(Spin, FineHasOneChevronAndCoarseTwo)
+{
+    const test::ApplicationFont font;
+    test::ApplicationFont::SetPixelSize(60);
+    EXPECT_EQ(Chevrons(SpinLook::Fine), 1);
+    EXPECT_EQ(Chevrons(SpinLook::Coarse), 2);
 }
 
 TEST_F(Spin, AnArrowAtItsEndIsDrawnFainter)
