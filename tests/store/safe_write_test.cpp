@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <system_error>
 
 namespace quillon::store {
@@ -216,9 +217,12 @@ TEST_F(ReplaceFileTest, LeavesAloneWhatIsNoRegularFile)
     fs::create_directory(m_file);
     EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
     EXPECT_TRUE(fs::is_directory(m_file));
-    fs::create_symlink("/dev/null", m_folder / "null");
-    EXPECT_FALSE(ReplaceFile(m_calls, m_folder / "null", "new"));
-    EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "null"}));
+    // A pipe of the test's own: run as root, a mistake would replace a device of the machine.
+    ASSERT_EQ(::mkfifo((m_folder / "pipe").c_str(), 0600), 0);
+    fs::create_symlink("pipe", m_folder / "link");
+    EXPECT_FALSE(ReplaceFile(m_calls, m_folder / "link", "new"));
+    EXPECT_TRUE(fs::is_fifo(m_folder / "pipe"));
+    EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "link", "pipe"}));
 }
 
 TEST_F(ReplaceFileTest, RemovesAStaleTemporaryFile)
