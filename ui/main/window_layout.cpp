@@ -6,6 +6,7 @@
 #include "ui/widgets/card.h"
 #include "ui/widgets/looks.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QMainWindow>
 #include <QScreen>
@@ -138,7 +139,45 @@ int StartWidth(const WindowParts& parts)
     return std::max(forSystem, forResults) + 9 * unit;
 }
 
-void ScrollContent(QMainWindow& window, QWidget& content, int startWidth)
+QSize WantedSize(const QWidget& content, const WindowParts& parts)
+{
+    return content.sizeHint().expandedTo({StartWidth(parts), 0});
+}
+
+/// Keeps the content's largest size in step with what it asks for: another font or a frame that comes to show must not
+/// be squeezed into the old one.
+class GrowthLimit : public QObject
+{
+public:
+    GrowthLimit(QWidget& content, const WindowParts& parts)
+        : QObject(&content)
+        , m_content(content)
+        , m_parts(parts)
+    {
+        content.installEventFilter(this);
+        Apply();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            Apply();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void Apply()
+    {
+        const QSize wanted = WantedSize(m_content, m_parts);
+        m_content.setMaximumSize(qRound(kLargestWidth * wanted.width()), qRound(kLargestHeight * wanted.height()));
+    }
+
+    QWidget& m_content;
+    WindowParts m_parts;
+};
+
+void ScrollContent(QMainWindow& window, QWidget& content, const WindowParts& parts)
 {
     auto* area = new QScrollArea(&window);
     area->setWidgetResizable(true);
@@ -148,9 +187,10 @@ void ScrollContent(QMainWindow& window, QWidget& content, int startWidth)
     area->setWidget(&content);
     window.setCentralWidget(area);
 
-    const QSize hint = content.sizeHint().expandedTo({startWidth, 0});
-    content.setMaximumSize(qRound(kLargestWidth * hint.width()), qRound(kLargestHeight * hint.height()));
-    const QSize start(hint.width(), qRound(kStartHeight * hint.height()));
+    // After the scroll area's own filter, hence before it in the order of events.
+    new GrowthLimit(content, parts);
+    const QSize wanted = WantedSize(content, parts);
+    const QSize start(wanted.width(), qRound(kStartHeight * wanted.height()));
     window.resize(start.boundedTo(window.screen()->availableSize()));
 }
 
@@ -169,7 +209,7 @@ void LayOutWindow(QMainWindow& window, QWidget& content, const WindowParts& part
     SpaceRows(*grid);
     parts.coaxLoss->hide();
     parts.antennaGain->hide();
-    ScrollContent(window, content, StartWidth(parts));
+    ScrollContent(window, content, parts);
 }
 
 void SetWindowTabOrder(const WindowParts& parts)

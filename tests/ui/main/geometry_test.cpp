@@ -1,8 +1,14 @@
+#include "tests/support/application_font.h"
 #include "tests/support/row_name.h"
 #include "tests/ui/main/window_fixture.h"
 
+#include "ui/widgets/number_box.h"
+#include "ui/widgets/titled_frame.h"
+#include "ui/widgets/value_label.h"
+
 #include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -13,13 +19,7 @@ namespace {
 class Geometry : public WindowTest
 {
 protected:
-    Geometry()
-        : m_usual(QApplication::font())
-    {
-        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
-    }
-
-    ~Geometry() override { QApplication::setFont(m_usual); }
+    Geometry() { QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10)); }
 
     QRect Place(const std::string& name)
     {
@@ -43,7 +43,15 @@ protected:
             Choose("cboSystem" + system + "Antenna(2)", "20 Meters");
         }
         Paste("txtOutputPower(2)", "1500");
-        QApplication::processEvents();
+        Resize({1024, 570});
+    }
+
+    /// Lets fonts, hints and sizes go their way through the event loop until nothing moves any more.
+    void Settle()
+    {
+        for (int round = 0; round < 10; ++round) {
+            QApplication::processEvents();
+        }
     }
 
     /// Pixels of the content that the window has no room for.
@@ -53,8 +61,14 @@ protected:
         return {area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum()};
     }
 
+    void Resize(QSize size)
+    {
+        Window().resize(size);
+        Settle();
+    }
+
 private:
-    QFont m_usual;
+    test::ApplicationFont m_font;
 };
 
 struct FramesRow
@@ -85,7 +99,7 @@ TEST_P(EqualFrames, StandOnOneLineAlsoWhileTypedFiguresAreShown)
     Open();
     Find("FrameCoaxLoss").show();
     Find("FrameAntennaGain").show();
-    QApplication::processEvents();
+    Settle();
     ExpectOneLine();
 }
 
@@ -98,25 +112,43 @@ INSTANTIATE_TEST_SUITE_P(Frames, EqualFrames,
                                            FramesRow{"FrameSystemOneAntenna", "FrameSystemTwoAnt"}),
                          support::RowName());
 
-TEST_F(Geometry, StartSizeFitsA1280By720ScreenWithItsWindowFrame)
+TEST_F(Geometry, StartSizeIsWithinTheScreen)
 {
     Open();
-    EXPECT_LE(Window().width(), 1280);
-    EXPECT_LE(Window().height(), 690);
-    EXPECT_EQ(Missing(), QSize(0, 0)) << Window().width() << " x " << Window().height();
+    EXPECT_LE(Window().width(), Window().screen()->availableSize().width());
+    EXPECT_LE(Window().height(), Window().screen()->availableSize().height());
 }
 
-TEST_F(Geometry, NothingScrollsOn1024By600)
+TEST_F(Geometry, NothingScrollsOnItsSmallestScreens)
 {
     Open();
-    Window().resize(1024, 570);
-    QApplication::processEvents();
-    EXPECT_EQ(Missing(), QSize(0, 0)) << Window().width() << " x " << Window().height();
+    // Below 1280x720 and 1024x600: window frames take some of the height.
+    for (const QSize size : {QSize(1280, 690), QSize(1024, 570)}) {
+        Resize(size);
+        EXPECT_EQ(Missing(), QSize(0, 0)) << size.width();
+    }
+}
+
+TEST_F(Geometry, ScrollsWhatASmallerScreenHasNoRoomFor)
+{
+    Open();
+    Resize({640, 400});
+    EXPECT_GT(Missing().width(), 0);
+    EXPECT_GT(Missing().height(), 0);
+}
+
+TEST_F(Geometry, MaximisedWindowIsNotTornApart)
+{
+    Open();
+    Resize({3000, 2000});
+    EXPECT_LT(Place("FrameDisplay").height(), 900);
+    EXPECT_LT(Place("FrameSystemTwoAnt").right() - Place("FrameSystemOneAntenna").left(), 1700);
 }
 
 TEST_F(Geometry, LabelsHaveRoomForTheirTexts)
 {
     Open();
+    Resize({1280, 690});
     for (const QLabel* label : Window().findChildren<QLabel*>()) {
         if (label->isVisible()) {
             EXPECT_GE(label->width(), label->minimumSizeHint().width()) << label->text().toStdString();
@@ -128,9 +160,35 @@ TEST_F(Geometry, LabelsHaveRoomForTheirTexts)
 TEST_F(Geometry, CaptionsAreNotCut)
 {
     Open();
+    Resize({1280, 690});
     for (const QLabel* label : Find("FrameDisplay").findChildren<QLabel*>()) {
         EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(label->text())) << label->text().toStdString();
         EXPECT_GE(label->height(), label->fontMetrics().height()) << label->text().toStdString();
+    }
+}
+
+TEST_F(Geometry, TitlesAreShownInFull)
+{
+    Open();
+    Resize({1280, 690});
+    for (const TitledFrame* frame : Window().findChildren<TitledFrame*>()) {
+        const QString title = frame->title().replace(QStringLiteral("&&"), QStringLiteral("&"));
+        EXPECT_TRUE(frame->isHidden() || frame->ShownTitle() == title) << frame->ShownTitle().toStdString();
+    }
+}
+
+TEST_F(Geometry, DecimalPointsOfAColumnStandOnOneLine)
+{
+    Open();
+    for (const char* system : {"(1)", "(2)"}) {
+        const auto pointOf = [&](const std::string& name) {
+            return Place(name).left() + Find<ValueLabel>(name).SeparatorX();
+        };
+        const double first = pointOf(std::string("lblERP") + system);
+        for (const std::string name : {"lblVSWRReturnLoss", "lblCoaxDBLoss", "lblCoaxPowerLoss", "lblAntennaGain",
+                                       "lblAntennaWGain", "lblSystemGain", "lblFeedPointPower"}) {
+            EXPECT_DOUBLE_EQ(pointOf(name + system), first) << name << system;
+        }
     }
 }
 
@@ -144,22 +202,22 @@ TEST_F(Geometry, FactsNeverGiveWay)
     }
 }
 
-TEST_F(Geometry, LongNamesDoNotWidenTheWindow)
+TEST_F(Geometry, LongNamesFitToo)
 {
     ChooseLongNames();
-    EXPECT_EQ(Missing(), QSize(0, 0)) << Window().width() << " x " << Window().height();
-    EXPECT_LE(Window().width(), 1280);
+    EXPECT_EQ(Missing(), QSize(0, 0));
 }
 
 TEST_F(Geometry, NewValueMovesNothing)
 {
     Open();
+    Resize({1280, 690});
     const QRect one = Place("lblERP(1)");
     const QRect two = Place("lblFeedPointPower(2)");
     const QRect box = Place("txtOutputPower(2)");
     Paste("txtOutputPower(1)", "99999");
     Paste("txtOutputPower(2)", "1.5");
-    QApplication::processEvents();
+    Settle();
     EXPECT_EQ(Place("lblERP(1)"), one);
     EXPECT_EQ(Place("lblFeedPointPower(2)"), two);
     EXPECT_EQ(Place("txtOutputPower(2)"), box);
@@ -168,6 +226,7 @@ TEST_F(Geometry, NewValueMovesNothing)
 TEST_F(Geometry, BoxesHaveRoomForTheirDigits)
 {
     Open();
+    Resize({1280, 690});
     Paste("txtOutputPower(1)", "15000");
     Paste("txtFrequency(1)", "432.100");
     for (const char* name : {"txtOutputPower(1)", "txtFrequency(1)", "txtVSWR(1)", "txtSystemOneCoaxLength"}) {
@@ -175,6 +234,57 @@ TEST_F(Geometry, BoxesHaveRoomForTheirDigits)
         EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(box.text()) + 6) << name;
     }
 }
+
+class FontSize : public Geometry, public ::testing::WithParamInterface<int>
+{
+protected:
+    static void ExpectRoom(const QWidget& around)
+    {
+        for (const QWidget* widget : around.findChildren<QWidget*>()) {
+            const bool counts = qobject_cast<const QLabel*>(widget) != nullptr ||
+                                qobject_cast<const CatalogueListBox*>(widget) != nullptr ||
+                                qobject_cast<const NumberBox*>(widget) != nullptr;
+            if (counts && widget->isVisible()) {
+                EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->objectName().toStdString();
+                EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << widget->objectName().toStdString();
+            }
+        }
+    }
+};
+
+TEST_P(FontSize, LeavesEveryLabelListAndBoxItsRoom)
+{
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), GetParam()));
+    Open();
+    Resize({1280, 690});
+    ExpectRoom(Window());
+    const auto& suffix = Box("txtVSWRSuffix(0)");
+    EXPECT_GE(suffix.width(), suffix.fontMetrics().horizontalAdvance(suffix.text()) + 4);
+}
+
+TEST_P(FontSize, LeavesRoomForTheTypedFiguresToo)
+{
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), GetParam()));
+    Open();
+    Find("FrameCoaxLoss").show();
+    Find("FrameAntennaGain").show();
+    Resize({1280, 690});
+    ExpectRoom(Window());
+}
+
+TEST_P(FontSize, OfALaterChoiceLeavesTheInputsTheirRoom)
+{
+    Open();
+    Resize({1280, 690});
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), GetParam()));
+    Settle();
+    for (const char* frame :
+         {"FrameXmitPower(1)", "FrameFrequency(1)", "FrameSystemOneCoax", "FrameSysOneCoax", "FrameSystemOneAntenna"}) {
+        ExpectRoom(Find(frame));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Points, FontSize, ::testing::Values(8, 12, 14, 20), ::testing::PrintToStringParamName());
 
 } // namespace
 } // namespace quillon::ui

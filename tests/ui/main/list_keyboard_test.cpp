@@ -1,7 +1,7 @@
 #include "tests/ui/main/window_fixture.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
+#include <QTest>
 
 namespace quillon::ui {
 namespace {
@@ -114,6 +114,27 @@ TEST_P(ListKeyboard, F4OpensTheList)
     EXPECT_TRUE(IsOpen(Coax(0)));
     Press(Qt::Key_Escape);
     EXPECT_FALSE(IsOpen(Coax(0)));
+}
+
+TEST_P(ListKeyboard, MousePicksFromTheOpenList)
+{
+    Focus(Coax(0));
+    Press(Qt::Key_F4);
+    auto& list = List(Coax(0));
+    const QModelIndex entry = list.model()->index(1, 0);
+    QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, list.view()->visualRect(entry).center());
+    EXPECT_EQ(Data().CoaxBrand.Trimmed(), "TIMES MICROWAVE");
+    EXPECT_EQ(Entries(Coax(1)), "LMR-A");
+}
+
+TEST_P(ListKeyboard, WholeSystemIsChosenFromTheKeyboardAlone)
+{
+    Focus(Coax(0));
+    for (const char* text : {"cable", "rg-8x", "wire", "beam", "20"}) {
+        Type(text);
+        Press(Qt::Key_Return);
+    }
+    EXPECT_EQ(Text(Own("lblERP")), "234.40");
 }
 
 TEST_P(ListKeyboard, NamesTypedAreFoundWithoutRegardToCase)

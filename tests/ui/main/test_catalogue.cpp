@@ -118,7 +118,7 @@ Spec2=50
 
 } // namespace
 
-void PutCatalogues(const support::TempFolder& folder)
+void PutCatalogues(support::TempFolder& folder)
 {
     folder.Put("Antennas/WIRECRAFT.DAT", kWirecraft);
     folder.Put("Antennas/HALO.DAT", kHalo);

@@ -5,6 +5,6 @@
 namespace quillon::ui {
 
 /// Writes small catalogues into a program folder: three antenna makers besides "WIRECRAFT", two cable makers.
-void PutCatalogues(const support::TempFolder& folder);
+void PutCatalogues(support::TempFolder& folder);
 
 } // namespace quillon::ui
