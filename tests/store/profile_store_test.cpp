@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
-#include <fcntl.h>
+#include <ctime>
 #include <system_error>
 #include <unistd.h>
 
@@ -58,6 +58,65 @@ TEST_F(ProfileStoreTest, SeesAChangeFromOutsideAtTheNextCall)
         m_folder.Put("f.dat", "[s]\nk=" + value + "\n");
         ASSERT_EQ(Value(m_file), value);
     }
+}
+
+/// A file system whose times stand still.
+class StoppedClock : public FileCalls
+{
+public:
+    explicit StoppedClock(timespec time)
+        : m_time(time)
+    {
+    }
+
+    int Stat(const char* path, struct stat* status) override { return Set(FileCalls::Stat(path, status), status); }
+
+    int Fstat(int descriptor, struct stat* status) override
+    {
+        return Set(FileCalls::Fstat(descriptor, status), status);
+    }
+
+    ssize_t Read(int descriptor, void* buffer, std::size_t length) override
+    {
+        ++m_reads;
+        return FileCalls::Read(descriptor, buffer, length);
+    }
+
+    [[nodiscard]] int Reads() const noexcept { return m_reads; }
+
+private:
+    int Set(int result, struct stat* status) const
+    {
+        status->st_mtim = m_time;
+        status->st_ctim = m_time;
+        return result;
+    }
+
+    timespec m_time;
+    int m_reads = 0;
+};
+
+TEST_F(ProfileStoreTest, SeesAChangeWithinOneStepOfTheFileSystemsClock)
+{
+    timespec now{};
+    ASSERT_EQ(::clock_gettime(CLOCK_REALTIME, &now), 0);
+    now.tv_sec += 60; // just now, however long the test takes
+    StoppedClock calls(now);
+    ProfileStore store(calls);
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
+    m_folder.Put("f.dat", "[s]\nk=2\n");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "2");
+}
+
+TEST_F(ProfileStoreTest, TakesAFileAsUnchangedOnceItsTimeIsPast)
+{
+    StoppedClock calls({1000, 0});
+    ProfileStore store(calls);
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
+    EXPECT_EQ(calls.Reads(), 1);
 }
 
 TEST_F(ProfileStoreTest, SeesAChangeBehindAModificationTimePutBack)

@@ -11,6 +11,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <utility>
 
 namespace quillon::store {
 namespace {
@@ -242,6 +243,37 @@ TEST_F(ReplaceFileTest, NeverWritesThroughALinkAtTheTemporaryName)
     EXPECT_TRUE(ReplaceFile(m_calls, m_file, "new"));
     EXPECT_EQ(m_folder.Get("other"), "untouched");
     EXPECT_EQ(m_folder.Get("f.dat"), "new");
+}
+
+/// Somebody else takes the temporary name in the moment it is free.
+class TakingCalls : public FileCalls
+{
+public:
+    explicit TakingCalls(fs::path file)
+        : m_file(std::move(file))
+    {
+    }
+
+    int Unlink(const char* path) override
+    {
+        const int result = FileCalls::Unlink(path);
+        if (!m_file.empty()) {
+            fs::create_hard_link(std::exchange(m_file, {}), path);
+        }
+        return result;
+    }
+
+private:
+    fs::path m_file;
+};
+
+TEST_F(ReplaceFileTest, NeverWritesIntoAFileThatTookTheTemporaryName)
+{
+    m_folder.Put("f.dat", "old");
+    TakingCalls calls(m_folder.Put("other", "untouched"));
+    EXPECT_FALSE(ReplaceFile(calls, m_file, "new"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "old");
+    EXPECT_EQ(m_folder.Get("other"), "untouched");
 }
 
 TEST_F(ReplaceFileTest, FailsWhenAFolderHasTheTemporaryName)

@@ -69,7 +69,8 @@ TEST_P(SectionIndexSize, FindsEverySectionByNameInAnyCase)
     std::string text;
     for (int number = 0; number < GetParam(); ++number) {
         const std::string name = "Sec" + std::to_string(number);
-        text += "[" + name + "]\n" + std::to_string(number) + "\n[" + name + "]\nsecond\n";
+        text.append("[").append(name).append("]\n").append(std::to_string(number)).append("\n");
+        text.append("[").append(name).append("]\nsecond\n");
     }
     SectionIndex index(text);
     for (int number = 0; number < GetParam(); ++number) {
