@@ -4,17 +4,15 @@
 #include "engine/mask.h"
 #include "engine/number_text.h"
 
-#include <utility>
-
 namespace quillon::ui {
 
 Workspace::Workspace(engine::AntennaSystems& systems, engine::Calculations& calculations,
-                     const store::Catalogue& catalogue, engine::Notifier& notifier, QLocale locale)
+                     const store::Catalogue& catalogue, engine::Notifier& notifier, const QLocale& locale)
     : m_systems(systems)
     , m_calculations(calculations)
     , m_catalogue(catalogue)
     , m_notifier(notifier)
-    , m_locale(std::move(locale))
+    , m_locale(locale)
     , m_separator(m_locale.decimalPoint().toStdString())
 {
 }

@@ -17,7 +17,7 @@ class Workspace
 {
 public:
     Workspace(engine::AntennaSystems& systems, engine::Calculations& calculations, const store::Catalogue& catalogue,
-              engine::Notifier& notifier, QLocale locale);
+              engine::Notifier& notifier, const QLocale& locale);
 
     [[nodiscard]] engine::SystemData& Data(engine::SystemId system) { return m_systems.Data[system]; }
 
