@@ -60,7 +60,7 @@ std::string ShortestText(float value, std::string_view separator)
     return LayOut(ShortestDecimal(value), {}, separator);
 }
 
-float NumberFromText(std::string_view text) noexcept
+std::optional<float> ReadNumber(std::string_view text) noexcept
 {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     const bool negative = text.starts_with('-');
@@ -68,7 +68,7 @@ float NumberFromText(std::string_view text) noexcept
         text.remove_prefix(1);
     }
     if (!StartsWithNumber(text)) {
-        return 0;
+        return std::nullopt;
     }
     float value = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -77,6 +77,11 @@ float NumberFromText(std::string_view text) noexcept
         value = IsBelowOne(number) ? 0 : std::numeric_limits<float>::max();
     }
     return negative ? -value : value;
+}
+
+float NumberFromText(std::string_view text) noexcept
+{
+    return ReadNumber(text).value_or(0.0F);
 }
 
 std::int16_t ToInteger(double value)

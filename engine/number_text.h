@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,8 +19,12 @@ namespace quillon::engine {
 [[nodiscard]] std::string ShortestText(float value, std::string_view separator = ".");
 
 /// Reads a number from a data file: decimal point whatever the locale, blanks and tabs before it skipped, stops at the
-/// first character that cannot belong to a number; 0 for a text that starts with none. Too large a number is cut to
-/// the largest float, one too close to zero is 0.
+/// first character that cannot belong to a number. Too large a number is cut to the largest float, one too close to
+/// zero is 0.
+/// @return nothing for a text that starts with no number.
+[[nodiscard]] std::optional<float> ReadNumber(std::string_view text) noexcept;
+
+/// As ReadNumber, with 0 for a text that starts with no number.
 [[nodiscard]] float NumberFromText(std::string_view text) noexcept;
 
 /// Whole number nearest to a value, halves to even, judged against 16 bits after rounding.

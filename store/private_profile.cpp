@@ -22,20 +22,41 @@ std::string PrivateProfile::SectionNames(std::size_t enough) const
     return names;
 }
 
-std::string PrivateProfile::KeyNames(std::string_view section, std::size_t enough) const
+template <class Visitor>
+void PrivateProfile::WalkEntries(std::string_view section, const Visitor& visit) const
 {
-    std::string names;
     const std::optional<SectionSpan> span = FindSection(section);
     std::size_t begin = span ? span->body : m_bytes.size();
-    while (span && begin < span->end && names.size() < enough) {
+    while (span && begin < span->end) {
         const LineSpan line = LineAt(m_bytes, begin);
         const ParsedLine parsed = ParseLine(Bytes().substr(line.begin, line.end - line.begin));
-        if (parsed.kind == LineKind::Entry) {
-            names.append(parsed.name).push_back('\0');
+        if (parsed.kind == LineKind::Entry && !visit(line, parsed)) {
+            return;
         }
         begin = line.next;
     }
+}
+
+std::string PrivateProfile::KeyNames(std::string_view section, std::size_t enough) const
+{
+    std::string names;
+    WalkEntries(section, [&names, enough](const LineSpan& /*line*/, const ParsedLine& entry) {
+        if (names.size() < enough) {
+            names.append(entry.name).push_back('\0');
+        }
+        return names.size() < enough;
+    });
     return names;
+}
+
+std::vector<ProfileEntry> PrivateProfile::Entries(std::string_view section) const
+{
+    std::vector<ProfileEntry> entries;
+    WalkEntries(section, [&entries](const LineSpan& /*line*/, const ParsedLine& entry) {
+        entries.push_back({entry.name, entry.value});
+        return true;
+    });
+    return entries;
 }
 
 bool PrivateProfile::SetValue(std::string_view section, std::string_view key, std::string_view value)
@@ -102,18 +123,15 @@ std::optional<SectionSpan> PrivateProfile::FindSection(std::string_view section)
 std::optional<PrivateProfile::EntrySpan> PrivateProfile::FindEntry(std::string_view section, std::string_view key) const
 {
     const std::string_view name = WithoutBlanks(key);
-    const std::optional<SectionSpan> span = FindSection(section);
-    std::size_t begin = span ? span->body : m_bytes.size();
-    while (span && begin < span->end) {
-        const LineSpan line = LineAt(m_bytes, begin);
-        const ParsedLine parsed = ParseLine(Bytes().substr(line.begin, line.end - line.begin));
-        if (parsed.kind == LineKind::Entry && EqualNames(parsed.name, name)) {
-            const auto value = static_cast<std::size_t>(parsed.value.data() - m_bytes.data());
-            return EntrySpan{line.begin, line.next, value, parsed.value.size()};
+    std::optional<EntrySpan> found;
+    WalkEntries(section, [this, name, &found](const LineSpan& line, const ParsedLine& entry) {
+        if (EqualNames(entry.name, name)) {
+            const auto value = static_cast<std::size_t>(entry.value.data() - m_bytes.data());
+            found = {line.begin, line.next, value, entry.value.size()};
         }
-        begin = line.next;
-    }
-    return std::nullopt;
+        return !found;
+    });
+    return found;
 }
 
 std::string_view PrivateProfile::LineEnd() const noexcept

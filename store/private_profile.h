@@ -7,8 +7,16 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace quillon::store {
+
+/// One line of a section: a key's name and its value as it stands in the file, quotes included.
+struct ProfileEntry
+{
+    std::string_view name;
+    std::string_view value;
+};
 
 /// A data file's text as a document of lines: sections of entries, and whatever else stands between them. Editing
 /// touches the line in question only; every other byte stays as it is.
@@ -37,6 +45,10 @@ public:
     /// @param enough  length from which on no further names are gathered.
     [[nodiscard]] std::string KeyNames(std::string_view section, std::size_t enough) const;
 
+    /// A section's entries in file order, for those who want many of them: looking up each walks the section each time.
+    /// Views into Bytes().
+    [[nodiscard]] std::vector<ProfileEntry> Entries(std::string_view section) const;
+
     /// Replaces a key's value in place, or adds the key at the end of its section, or section and key at the end of
     /// the file. @return whether the text changed; it does not when the key has this value already.
     bool SetValue(std::string_view section, std::string_view key, std::string_view value);
@@ -56,6 +68,9 @@ private:
 
     [[nodiscard]] SectionIndex& Index() const;
     [[nodiscard]] std::optional<SectionSpan> FindSection(std::string_view section) const;
+    /// @param visit  gets each entry's LineSpan and ParsedLine in file order; false ends the walk.
+    template <class Visitor>
+    void WalkEntries(std::string_view section, const Visitor& visit) const;
     [[nodiscard]] std::optional<EntrySpan> FindEntry(std::string_view section, std::string_view key) const;
     [[nodiscard]] std::string_view LineEnd() const noexcept;
     void InsertLines(std::size_t offset, std::string lines);

@@ -149,6 +149,15 @@ INSTANTIATE_TEST_SUITE_P(OutOfRange, NumberFromTextRow, ::testing::Values(
 
 // clang-format on
 
+TEST(ReadNumber, TellsZeroFromATextThatStartsWithNoNumber)
+{
+    EXPECT_EQ(ReadNumber("0"), 0.0F);
+    EXPECT_EQ(ReadNumber(" -7.5 dBd"), -7.5F);
+    EXPECT_EQ(ReadNumber(""), std::nullopt);
+    EXPECT_EQ(ReadNumber("dBd"), std::nullopt);
+    EXPECT_EQ(ReadNumber("-"), std::nullopt);
+}
+
 TEST(NumberFromText, ReadsNoFurtherThanItsText)
 {
     const std::string_view text("12345");

@@ -48,6 +48,18 @@ TEST(PrivateProfile, ListsNamesInFileOrderAsSpelled)
     EXPECT_EQ(profile.KeyNames("missing", kNoEnd), "");
 }
 
+TEST(PrivateProfile, GivesAllEntriesOfASectionInFileOrder)
+{
+    const PrivateProfile profile("[s]\na = \"1\" \n;c=2\nother\nA=\n[t]\nz=3\n");
+    const std::vector<ProfileEntry> entries = profile.Entries("S");
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[0].name, "a");
+    EXPECT_EQ(entries[0].value, "\"1\"");
+    EXPECT_EQ(entries[1].name, "A");
+    EXPECT_EQ(entries[1].value, "");
+    EXPECT_TRUE(profile.Entries("missing").empty());
+}
+
 TEST(PrivateProfile, StopsListingOnceThereIsEnough)
 {
     const PrivateProfile profile("[aa]\nk1=\nk2=\nk3=\n[bb]\n[cc]\n");
