@@ -52,9 +52,10 @@ fs::path ResolveCase(const fs::path& path)
     }
     const fs::path folder = path.has_parent_path() ? ResolveCase(path.parent_path()) : fs::path();
     const std::string name = path.filename().string();
-    const std::vector<std::string> spellings = ListNames(folder, [&name](const fs::directory_entry& entry) {
+    const auto isSpelling = [&name](const fs::directory_entry& entry) {
         return EqualNames(entry.path().filename().string(), name);
-    });
+    };
+    const std::vector<std::string> spellings = ListNames(folder, isSpelling);
     const auto nearest = std::min_element(spellings.begin(), spellings.end(), [&name](const auto& a, const auto& b) {
         return Differences(name, a) < Differences(name, b);
     });
