@@ -77,8 +77,8 @@ WebInterface No
 std::string Entry(const PrivateQueue& queue, const std::string& caught)
 {
     std::ostringstream entry;
-    entry << "<Printer " << queue.name << ">\nDeviceURI catch:" << caught << queue.fault
-          << "\nState " << (queue.stopped ? "Stopped" : "Idle") << "\nAccepting " << (queue.accepting ? "Yes" : "No")
+    entry << "<Printer " << queue.name << ">\nDeviceURI catch:" << caught << queue.fault << "\nState "
+          << (queue.stopped ? "Stopped" : "Idle") << "\nAccepting " << (queue.accepting ? "Yes" : "No")
           << "\nErrorPolicy " << queue.policy << "\nShared No\n";
     if (!queue.message.empty()) {
         entry << "StateMessage " << queue.message << '\n';
@@ -133,10 +133,14 @@ void PrivateCups::Start()
 {
     const QString etc = QString::fromStdString((m_folder / "etc").string());
     m_service.setProcessChannelMode(QProcess::MergedChannels);
-    m_service.start(Program(QStringLiteral("cupsd")), {QStringLiteral("-f"), QStringLiteral("-c"),
-                                                       etc + QStringLiteral("/cupsd.conf"), QStringLiteral("-s"),
-                                                       etc + QStringLiteral("/cups-files.conf")});
-    const QElapsedTimer waiting = [] { QElapsedTimer timer; timer.start(); return timer; }();
+    m_service.start(Program(QStringLiteral("cupsd")),
+                    {QStringLiteral("-f"), QStringLiteral("-c"), etc + QStringLiteral("/cupsd.conf"),
+                     QStringLiteral("-s"), etc + QStringLiteral("/cups-files.conf")});
+    const QElapsedTimer waiting = [] {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
+    }();
     while (waiting.elapsed() < kPatienceMilliseconds && m_service.state() != QProcess::NotRunning) {
         QLocalSocket socket;
         socket.connectToServer(QString::fromUtf8(Server()));

@@ -20,8 +20,8 @@ struct PrivateQueue
     std::string policy = "abort-job"; ///< what the service does with a job that failed
     bool stopped = false;
     bool accepting = true;
-    std::string message = {};     ///< what the person who stopped it said
-    bool hasDescription = true;   ///< without one, the service does not know the paper
+    std::string message = {};   ///< what the person who stopped it said
+    bool hasDescription = true; ///< without one, the service does not know the paper
 };
 
 /// A print service of the tests' own: a child of this process with its settings, socket and spool in a temporary

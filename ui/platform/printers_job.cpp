@@ -18,10 +18,10 @@ QStringList WordsOf(const char* state, const QStringList& reasons, const QString
 
 PrintError PrinterError(ipp_status_t status, const PrinterState& printer, const QString& source)
 {
-    return ErrorOf(status,
-                   WordsOf(ippEnumString("printer-state", static_cast<int>(printer.state)), printer.reasons,
-                           printer.message),
-                   source);
+    return ErrorOf(
+        status,
+        WordsOf(ippEnumString("printer-state", static_cast<int>(printer.state)), printer.reasons, printer.message),
+        source);
 }
 
 JobNews Failed(ipp_status_t status, const JobState& job, const PrinterState& printer, const QString& source)

@@ -86,8 +86,8 @@ QPageLayout LandscapePageIn(ipp_t& description)
 QByteArray MediaName(const QPageLayout& page)
 {
     const QSizeF millimetres = page.pageSize().size(QPageSize::Millimeter);
-    const pwg_media_t* media = pwgMediaForSize(qRound(millimetres.width() * kPerMillimetre),
-                                               qRound(millimetres.height() * kPerMillimetre));
+    const pwg_media_t* media =
+        pwgMediaForSize(qRound(millimetres.width() * kPerMillimetre), qRound(millimetres.height() * kPerMillimetre));
     return media == nullptr ? QByteArray() : QByteArray(media->pwg);
 }
 
