@@ -6,6 +6,7 @@
 #include "engine/number_text.h"
 #include "ui/main/catalogue_text.h"
 #include "ui/main/list_group.h"
+#include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
 #include "ui/main/typed_number.h"
 #include "ui/widgets/object_names.h"
@@ -19,12 +20,27 @@ namespace quillon::ui {
 namespace {
 
 constexpr std::string_view kBandFrequencyMask = "###0.000";
+constexpr std::string_view kRecordFrequencyMask = "##0.000";
 constexpr qsizetype kModelCharacters = 16;
+constexpr std::size_t kBrandWidth = 25;
 
 QString FrameName(engine::SystemId system)
 {
     return system == engine::SystemId::One ? QStringLiteral("FrameSystemOneAntenna")
                                            : QStringLiteral("FrameSystemTwoAnt");
+}
+
+/// The band whose working frequency reads the same as a record's, to the kilohertz; empty when there is none.
+QString BandOfFrequency(float megahertz)
+{
+    const std::string text = engine::FormatWithMask(megahertz, kRecordFrequencyMask);
+    for (int position = 0; position < engine::kBandCount; ++position) {
+        if (engine::FormatWithMask(engine::BandFrequency(position).frequency, kRecordFrequencyMask) == text) {
+            const std::string_view name = engine::BandNames().at(static_cast<std::size_t>(position));
+            return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -156,9 +172,42 @@ void AntennaFrame::TakeBand()
     m_port.SetFrequencyFollowsBand(true);
     Work().RefreshData(System());
 
+    ShowGain();
+}
+
+void AntennaFrame::ShowGain()
+{
     const QString gain = Work().Shortest(Data().AntennaGain);
     m_line->Fact(0)->setText(QStringLiteral("Gain = %1 dbd").arg(gain));
     m_port.ShowAntennaStatus(QStringLiteral("%1 Antenna").arg(gain));
+}
+
+void AntennaFrame::ShowRecord()
+{
+    const engine::SystemData saved = Data();
+    m_line->Held(0)->setText(SectionText(saved.AntennaBrand.Trimmed()));
+    m_line->Held(1)->setText(SectionText(saved.AntennaModel.Trimmed()));
+    m_line->Fact(0)->clear();
+    m_port.ShowAntennaStatus({});
+    m_lists[Band]->ClearMark();
+    m_port.SetFrequencyFollowsBand(false);
+    if (!ChooseSaved(*m_lists[Brand], saved.AntennaBrand.Trimmed(), kBrandWidth) ||
+        !ChooseSaved(*m_lists[Model], saved.AntennaModel.Trimmed(), kModelCharacters)) {
+        return;
+    }
+    const int band = m_lists[Band]->findText(BandOfFrequency(saved.Frequency), Qt::MatchFixedString);
+    if (band >= 0) {
+        m_lists[Band]->Choose(band);
+    } else {
+        TakeRecordGain();
+    }
+}
+
+void AntennaFrame::TakeRecordGain()
+{
+    Data().UseAntennaList = engine::kTrue;
+    Work().Results(System()).AntennaGainDBd = Data().AntennaGain;
+    ShowGain();
 }
 
 float AntennaFrame::GainOfBand() const

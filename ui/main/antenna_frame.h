@@ -25,6 +25,8 @@ public:
     /// Adds a model's bands to the band list.
     void LoadAntennaGain(const QByteArray& maker, const QByteArray& model);
     void cboAntenna_Click(int index);
+    /// Chooses the record's brand, model and band in the lists. What a list does not have stays as the record holds it.
+    void ShowRecord();
     void SetListsEnabled(bool enabled);
 
     [[nodiscard]] CatalogueListBox* FirstList() const { return m_lists[Brand]; }
@@ -38,6 +40,9 @@ private:
     void ModelChosen();
     void BandChosen();
     void TakeBand();
+    /// Takes the record's own gain into force, for a frequency that is no band's working frequency.
+    void TakeRecordGain();
+    void ShowGain();
     [[nodiscard]] float GainOfBand() const;
 
     SystemPort& m_port;

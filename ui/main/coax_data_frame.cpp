@@ -14,6 +14,12 @@
 
 namespace quillon::ui {
 
+namespace {
+
+constexpr std::string_view kRecordLengthMask = "0.0";
+
+} // namespace
+
 CoaxDataFrame::CoaxDataFrame(engine::SystemId system, Workspace& workspace, QWidget* parent)
     : InputFrame(QStringLiteral("System %1 Coax data").arg(Number(system)), system, workspace, parent)
     , m_length(new NumberBox(5, this))
@@ -76,6 +82,13 @@ void CoaxDataFrame::TakeConnectorPosition()
     const int position = m_connectorSpin->value();
     Data().Connectors = static_cast<std::int16_t>(position);
     WriteBox(*m_connectors, QString::number(engine::SpinToConnectors(position)), [this] { txtNumConnectors_Change(); });
+}
+
+void CoaxDataFrame::ShowRecord()
+{
+    ShowFigure(*m_length, Work().Masked(Data().CoaxLength, kRecordLengthMask));
+    ShowFigure(*m_connectors, QString::number(Data().Connectors));
+    txtNumConnectors_Change();
 }
 
 QList<QWidget*> CoaxDataFrame::TabOrder() const

@@ -18,6 +18,9 @@ public:
     void ShowLength(float feet);
     /// Takes the spin control's position: the record first holds the position itself, then the count shown.
     void TakeConnectorPosition();
+    /// Shows the record's length in tenths of a foot and its connectors, whose loss at the record's frequency is stored
+    /// anew.
+    void ShowRecord();
     [[nodiscard]] QList<QWidget*> TabOrder() const;
 
 private slots:

@@ -5,6 +5,7 @@
 #include "ui/main/catalogue_text.h"
 #include "ui/main/layout_parts.h"
 #include "ui/main/list_group.h"
+#include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
 #include "ui/main/typed_number.h"
 #include "ui/widgets/object_names.h"
@@ -15,6 +16,8 @@ namespace quillon::ui {
 
 namespace {
 
+constexpr std::size_t kBrandWidth = 15;
+constexpr std::size_t kTypeWidth = 20;
 const QString kJacketTip = QStringLiteral("Outside diameter of cable jacket measured in inches.");
 const QString kImpedanceTip = QStringLiteral("Impedance / Physical length required / electrical wavelength.");
 
@@ -57,6 +60,22 @@ void CoaxFrame::LayOut()
 void CoaxFrame::SetMakers(const QList<CatalogueEntry>& makers)
 {
     m_lists[Brand]->Refill(makers);
+}
+
+void CoaxFrame::ShowRecord()
+{
+    const std::string brand = Data().CoaxBrand.Trimmed();
+    const std::string type = Data().CoaxModel.Trimmed();
+    m_line->Held(0)->setText(SectionText(brand));
+    m_line->Held(1)->setText(SectionText(type));
+    m_line->Fact(0)->clear();
+    m_line->Fact(1)->clear();
+    m_port.ShowCoaxStatus({});
+    m_lists[Type]->ClearMark();
+    // Another maker's cable may have the same name, so a type counts only under its own brand.
+    if (ChooseSaved(*m_lists[Brand], brand, kBrandWidth)) {
+        ChooseSaved(*m_lists[Type], type, kTypeWidth);
+    }
 }
 
 void CoaxFrame::SetListsEnabled(bool enabled)

@@ -21,6 +21,8 @@ public:
     /// Fills the brand list, keeping what is chosen.
     void SetMakers(const QList<CatalogueEntry>& makers);
     void cboCoax_Click(int index);
+    /// Chooses the record's brand and type in the lists. What a list does not have stays as the record holds it.
+    void ShowRecord();
     void SetListsEnabled(bool enabled);
     /// List that opens after a type was taken with Enter.
     void SetNext(CatalogueListBox* next);

@@ -15,6 +15,7 @@ namespace quillon::ui {
 namespace {
 
 constexpr std::string_view kFrequencyMask = "#####.##0";
+constexpr std::string_view kRecordMask = "##0.000";
 
 } // namespace
 
@@ -65,6 +66,11 @@ bool FrequencyFrame::ShowFrequency(float megahertz, std::string_view mask)
 {
     WriteBox(*m_text, Work().Masked(megahertz, mask), [this] { txtFrequency_Change(); });
     return !m_text->IsMarked();
+}
+
+void FrequencyFrame::ShowRecord()
+{
+    ShowFigure(*m_text, Work().Masked(Data().Frequency, kRecordMask));
 }
 
 void FrequencyFrame::SetFollowsBand(bool follows)

@@ -21,6 +21,8 @@ public:
     void TakeSpinFrequency();
     /// Writes the box; its change handler stores the figure. @return whether the figure could be computed with.
     bool ShowFrequency(float megahertz, std::string_view mask);
+    /// Shows the record's frequency.
+    void ShowRecord();
     /// A frequency that follows the chosen band is not for typing or turning.
     void SetFollowsBand(bool follows);
     [[nodiscard]] QList<QWidget*> TabOrder() const;

@@ -2,6 +2,8 @@
 
 #include "ui/main/typed_number.h"
 
+#include <QSignalBlocker>
+
 namespace quillon::ui {
 
 InputFrame::InputFrame(const QString& title, engine::SystemId system, Workspace& workspace, QWidget* parent)
@@ -53,6 +55,13 @@ void InputFrame::WriteBox(NumberBox& box, const QString& text, const std::functi
     } else {
         box.setText(text);
     }
+}
+
+void InputFrame::ShowFigure(NumberBox& box, const QString& text)
+{
+    const QSignalBlocker blocker(&box);
+    box.setText(text);
+    box.ClearMark();
 }
 
 } // namespace quillon::ui

@@ -37,6 +37,9 @@ protected:
     /// stores the figure: one that cannot be computed with must not reach the record on another way.
     static void WriteBox(NumberBox& box, const QString& text, const std::function<void()>& changeHandler);
 
+    /// Writes a box's text without its change handler: the record holds the figure already, and more exactly.
+    static void ShowFigure(NumberBox& box, const QString& text);
+
 private:
     engine::SystemId m_system;
     Workspace& m_workspace;

@@ -79,6 +79,11 @@ void Quillon::RefreshData(int system)
     m_workspace.RefreshData(engine::ToSystemId(system));
 }
 
+void Quillon::ShowRecord(int system)
+{
+    m_columns[engine::ToSystemId(system)]->ShowRecord();
+}
+
 void Quillon::LoadAntennaMakers()
 {
     const QList<CatalogueEntry> makers = MakerEntries(m_workspace.Catalogue().LoadAntennaMakers());

@@ -6,6 +6,7 @@
 #include "ui/main/results_frame.h"
 #include "ui/main/system_column.h"
 #include "ui/main/workspace.h"
+#include "ui/platform/main_window_port.h"
 
 #include <QMainWindow>
 
@@ -21,7 +22,7 @@ struct QuillonParts
 };
 
 /// The main window: the inputs of both antenna systems and, between them, their results.
-class Quillon : public QMainWindow
+class Quillon : public QMainWindow, public MainWindowPort
 {
     Q_OBJECT
 
@@ -34,8 +35,13 @@ public:
     /// Whether the start-up sequence is finished.
     [[nodiscard]] bool FormLoaded() const noexcept { return m_formLoaded; }
 
-    /// Computes a system anew and shows it. @throws std::out_of_range for a number other than 1 and 2.
-    void RefreshData(int system);
+    [[nodiscard]] engine::AntennaSystems& Systems() override { return m_systems; }
+
+    /// @throws engine::ArithmeticError when the inputs cannot be computed with; the results then stay as they were.
+    void RefreshData(int system) override;
+    void ShowRecord(int system) override;
+
+    void SetSavedFlags() override { m_workspace.SetSavedFlags(); }
 
     /// Fills the antenna brand lists of both systems, keeping what is chosen.
     void LoadAntennaMakers();

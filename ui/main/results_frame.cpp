@@ -74,7 +74,9 @@ ResultsFrame::ResultsFrame(const engine::PerSystem<engine::SystemResults>& resul
         AddRow(place);
     }
     AddStatusLine();
-    StartValues();
+    for (const engine::SystemId system : engine::kBothSystems) {
+        StartValues(system);
+    }
 }
 
 void ResultsFrame::AddPlates()
@@ -160,14 +162,13 @@ void ResultsFrame::AddStatusLine()
     }
 }
 
-void ResultsFrame::StartValues()
+void ResultsFrame::StartValues(engine::SystemId system)
 {
     const std::string separator = m_locale.decimalPoint().toStdString();
     for (const ResultRow& row : kResultRows) {
         const std::string zero = row.mask.empty() ? "0" : engine::FormatWithMask(0, row.mask, separator);
-        for (const engine::SystemId system : engine::kBothSystems) {
-            ShowResult(row.label, system, zero);
-        }
+        ShowResult(row.label, system, zero);
+        ShowFormula(row.label, system, {});
     }
 }
 

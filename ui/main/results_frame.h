@@ -30,6 +30,9 @@ public:
     void ShowFormula(engine::ResultLabel label, engine::SystemId system, std::string_view text) override;
     void CompareSystems() override;
 
+    /// Shows 0 in every value of a system, with no arithmetic behind it.
+    void StartValues(engine::SystemId system);
+
     void ShowAntennaStatus(engine::SystemId system, const QString& text);
     void ShowCoaxStatus(engine::SystemId system, const QString& text);
 
@@ -48,7 +51,6 @@ private:
     [[nodiscard]] ResultMarker* NewMarker(const ResultRow& row, engine::SystemId system);
     void ShowRow(int place);
     void NameValue(int place, engine::SystemId system);
-    void StartValues();
 
     const engine::PerSystem<engine::SystemResults>& m_results;
     engine::Markers m_markers{};

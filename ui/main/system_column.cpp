@@ -67,6 +67,17 @@ void SystemColumn::StartInputs()
     data.VSWR = kStartVSWR;
 }
 
+void SystemColumn::ShowRecord()
+{
+    m_results.StartValues(m_system);
+    m_power->ShowRecord();
+    m_vswr->ShowRecord();
+    m_frequency->ShowRecord();
+    m_coaxData->ShowRecord();
+    m_coax->ShowRecord();
+    m_antenna->ShowRecord();
+}
+
 QList<TitledFrame*> SystemColumn::Frames() const
 {
     return {m_power, m_vswr, m_frequency, m_coax, m_coaxData, m_antenna};

@@ -28,6 +28,9 @@ public:
     /// Sets the record's inputs to their defaults and shows them, in start-up order.
     void StartInputs();
 
+    /// Puts the record into the inputs. The results start anew: what the pair before it had is not this one's.
+    void ShowRecord();
+
     [[nodiscard]] engine::SystemId System() const noexcept { return m_system; }
 
     [[nodiscard]] XmitPowerFrame* Power() const { return m_power; }

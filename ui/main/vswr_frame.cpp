@@ -66,6 +66,11 @@ void VSWRFrame::ShowVSWR(float ratio)
     m_text->setText(Work().Masked(ratio, kVSWRMask));
 }
 
+void VSWRFrame::ShowRecord()
+{
+    ShowFigure(*m_text, Work().Masked(Data().VSWR, kVSWRMask));
+}
+
 QList<QWidget*> VSWRFrame::TabOrder() const
 {
     return {m_text, m_whole, m_tenths};

@@ -14,6 +14,8 @@ public:
     VSWRFrame(engine::SystemId system, Workspace& workspace, QWidget* parent = nullptr);
 
     void ShowVSWR(float ratio);
+    /// Shows the record's ratio in tenths.
+    void ShowRecord();
     [[nodiscard]] QList<QWidget*> TabOrder() const;
 
 private slots:

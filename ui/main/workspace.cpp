@@ -20,6 +20,22 @@ Workspace::Workspace(engine::AntennaSystems& systems, engine::Calculations& calc
 void Workspace::RefreshData(engine::SystemId system)
 {
     m_calculations.RefreshData(Number(system));
+    if (!(Data(system) == m_saved[system])) {
+        SetSavedFlags(engine::kFalse);
+    }
+}
+
+void Workspace::SetSavedFlags()
+{
+    m_saved = m_systems.Data;
+    SetSavedFlags(engine::kTrue);
+}
+
+void Workspace::SetSavedFlags(engine::Boolean value)
+{
+    for (const engine::SystemId system : engine::kBothSystems) {
+        State(system).SetFlag(engine::kSavedFlag, value);
+    }
 }
 
 bool Workspace::Attempt(engine::SystemId system, const std::function<void()>& change)

@@ -39,6 +39,9 @@ public:
 
     void RefreshData(engine::SystemId system);
 
+    /// Notes that both systems are saved as they are; it holds until an input of either changes.
+    void SetSavedFlags();
+
     /// Runs a change of a system's inputs. When it cannot be computed with, the system's inputs and results are put
     /// back as they were. @return whether the change stands.
     [[nodiscard]] bool Attempt(engine::SystemId system, const std::function<void()>& change);
@@ -48,11 +51,14 @@ public:
     [[nodiscard]] QString Shortest(float value) const;
 
 private:
+    void SetSavedFlags(engine::Boolean value);
+
     engine::AntennaSystems& m_systems;
     engine::Calculations& m_calculations;
     const store::Catalogue& m_catalogue;
     engine::Notifier& m_notifier;
     store::BandTable m_bands;
+    engine::PerSystem<engine::SystemData> m_saved; ///< what the saved flags speak of
     QLocale m_locale;
     std::string m_separator;
 };

@@ -19,6 +19,7 @@ namespace {
 
 /// The legal limit of amateur stations: beyond it the figure is shown in red.
 constexpr double kHighestPower = 1500;
+constexpr std::string_view kRecordMask = "####0";
 constexpr QColor kTooMuchInk(255, 0, 0);
 constexpr QColor kSystemOneInk(0, 0, 128);
 constexpr QColor kSystemTwoInk(64, 64, 64);
@@ -71,6 +72,12 @@ void XmitPowerFrame::Wire()
 void XmitPowerFrame::ShowPower(float watts)
 {
     WriteBox(*m_text, Work().Shortest(watts), [this] { txtOutputPower_Change(); });
+}
+
+void XmitPowerFrame::ShowRecord()
+{
+    ShowFigure(*m_text, Work().Masked(Data().XmitPower, kRecordMask));
+    ColourText(Data().XmitPower);
 }
 
 QList<QWidget*> XmitPowerFrame::TabOrder() const

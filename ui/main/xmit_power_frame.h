@@ -14,6 +14,8 @@ public:
     XmitPowerFrame(engine::SystemId system, Workspace& workspace, QWidget* parent = nullptr);
 
     void ShowPower(float watts);
+    /// Shows the record's power in whole watts; the record keeps its tenths.
+    void ShowRecord();
     [[nodiscard]] QList<QWidget*> TabOrder() const;
 
 protected:
