@@ -1,0 +1,123 @@
+#include "ui/report/print_out.h"
+
+#include "ui/widgets/card.h"
+#include "ui/widgets/looks.h"
+#include "ui/widgets/quiet_label.h"
+#include "ui/widgets/titled_frame.h"
+
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace quillon::ui {
+
+namespace {
+
+enum Row { ListLabels, Lists, NotesLabel, Notes };
+
+constexpr int kListCharacters = 16;
+constexpr int kNotesLines = 8;
+
+QuietLabel* AddLabel(QWidget& frame, const QString& name, const QString& text, QWidget* buddy)
+{
+    auto* label = new QuietLabel(QuietLabel::Tone::Quiet, 1.0, &frame);
+    label->setObjectName(name);
+    label->setText(text);
+    label->setBuddy(buddy);
+    return label;
+}
+
+// A long name is cut in the list rather than widen the dialog.
+void BoundWidth(QComboBox& list)
+{
+    list.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list.setMinimumContentsLength(kListCharacters);
+}
+
+void AddInCard(QVBoxLayout& column, QWidget* frame)
+{
+    auto* cell = new QGridLayout;
+    auto* card = new Card(Card::Kind::Card, frame->parentWidget());
+    card->lower();
+    cell->addWidget(card, 0, 0);
+    auto* inset = new QVBoxLayout;
+    const int margin = 5 * BaseUnit() / 2;
+    inset->setContentsMargins(margin, 2 * BaseUnit(), margin, margin);
+    inset->addWidget(frame);
+    cell->addLayout(inset, 0, 0);
+    column.addLayout(cell, 1);
+}
+
+QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right)
+{
+    const QList<QPushButton*> all = left + right;
+    int width = 0;
+    for (const QPushButton* button : all) {
+        const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+        width = std::max(width, caption.width() + 5 * BaseUnit());
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * BaseUnit());
+    for (QPushButton* button : all) {
+        if (button == right.first()) {
+            row->addStretch(1);
+        }
+        button->setAutoDefault(false);
+        button->setMinimumWidth(width);
+        row->addWidget(button);
+    }
+    return row;
+}
+
+} // namespace
+
+void PrintOut::LayOut()
+{
+    const int unit = BaseUnit();
+    auto* frame = new TitledFrame(QStringLiteral("Print Options"), this);
+    frame->setObjectName(QStringLiteral("FramePrintOptions"));
+    for (QWidget* field : QList<QWidget*>{m_printerList, m_fonts, m_notes}) {
+        field->setParent(frame);
+    }
+    BoundWidth(*m_printerList);
+    BoundWidth(*m_fonts);
+    m_notes->setTabChangesFocus(true);
+    m_notes->setMinimumHeight(kNotesLines * m_notes->fontMetrics().lineSpacing());
+
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(0, unit, 0, 0);
+    grid->setHorizontalSpacing(2 * unit);
+    grid->setVerticalSpacing(unit);
+    grid->addWidget(AddLabel(*frame, QStringLiteral("lblprinter"), QStringLiteral("Select Printer from list below."),
+                             m_printerList),
+                    ListLabels, 0);
+    grid->addWidget(
+        AddLabel(*frame, QStringLiteral("lblFonts"), QStringLiteral("Select Font from list below."), m_fonts),
+        ListLabels, 1);
+    grid->addWidget(m_printerList, Lists, 0);
+    grid->addWidget(m_fonts, Lists, 1);
+    grid->addWidget(
+        AddLabel(*frame, QStringLiteral("Label1"), QStringLiteral("Enter any notes for this report."), m_notes),
+        NotesLabel, 0, 1, 2);
+    grid->addWidget(m_notes, Notes, 0, 1, 2);
+    grid->setRowStretch(Notes, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(3 * unit, 3 * unit, 3 * unit, 3 * unit);
+    column->setSpacing(2 * unit);
+    AddInCard(*column, frame);
+    column->addLayout(ButtonRow({m_print, m_stop}, {m_cancel, m_finish}));
+
+    const QList<QWidget*> order{m_printerList, m_fonts, m_notes, m_print, m_stop, m_cancel, m_finish};
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        setTabOrder(order.at(i - 1), order.at(i));
+    }
+}
+
+} // namespace quillon::ui
