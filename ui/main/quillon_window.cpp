@@ -1,9 +1,11 @@
 #include "ui/main/quillon_window.h"
 
 #include "ui/main/catalogue_text.h"
+#include "ui/main/menu_bar.h"
 #include "ui/main/window_layout.h"
 
 #include <QEvent>
+#include <QMenuBar>
 
 namespace quillon::ui {
 
@@ -18,10 +20,11 @@ Quillon::Quillon(const QuillonParts& parts, QWidget* parent)
                 new SystemColumn(engine::SystemId::Two, m_workspace, *m_results, m_content)}
     , m_coaxLoss(new CoaxLossFrame(m_workspace, m_content))
     , m_antennaGain(new AntennaGainFrame(m_workspace, m_content))
+    , m_commands(new CommandFrame(m_content))
 {
     setObjectName(QStringLiteral("Quillon"));
     setWindowTitle(QStringLiteral("ERP / Attenuation Calculator"));
-    const WindowParts window{m_columns, m_results, m_coaxLoss, m_antennaGain};
+    const WindowParts window{m_columns, m_results, m_coaxLoss, m_antennaGain, m_commands};
     LayOutWindow(*this, *m_content, window);
     SetWindowTabOrder(window);
     m_columns[engine::SystemId::One]->Power()->TabOrder().first()->setFocus();
@@ -33,6 +36,8 @@ void Quillon::Wire()
     const SystemColumn& one = *m_columns[engine::SystemId::One];
     connect(m_coaxLoss, &CoaxLossFrame::UseLists, one.Coax(), &CoaxFrame::SetListsEnabled);
     connect(m_antennaGain, &AntennaGainFrame::UseLists, one.Antenna(), &AntennaFrame::SetListsEnabled);
+    connect(m_commands, &CommandFrame::Given, this, &Quillon::CommandGiven);
+    FillMenuBar(*menuBar(), [this](Command command) { emit CommandGiven(command); });
     for (TitledFrame* frame : InputFrames()) {
         frame->installEventFilter(this);
     }

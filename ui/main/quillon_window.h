@@ -3,6 +3,7 @@
 #include "engine/calculations.h"
 #include "ui/main/antenna_gain_frame.h"
 #include "ui/main/coax_loss_frame.h"
+#include "ui/main/command_frame.h"
 #include "ui/main/results_frame.h"
 #include "ui/main/system_column.h"
 #include "ui/main/workspace.h"
@@ -48,6 +49,10 @@ public:
     /// Fills the coax brand lists of both systems, keeping what is chosen.
     void LoadCableMakers();
 
+signals:
+    /// A person asks for something that other windows do.
+    void CommandGiven(Command command);
+
 protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -67,6 +72,7 @@ private:
     engine::PerSystem<SystemColumn*> m_columns;
     CoaxLossFrame* m_coaxLoss;
     AntennaGainFrame* m_antennaGain;
+    CommandFrame* m_commands;
     bool m_formLoaded = false;
 };
 

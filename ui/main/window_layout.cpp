@@ -2,6 +2,7 @@
 
 #include "ui/main/antenna_gain_frame.h"
 #include "ui/main/coax_loss_frame.h"
+#include "ui/main/command_frame.h"
 #include "ui/main/system_column.h"
 #include "ui/widgets/card.h"
 #include "ui/widgets/looks.h"
@@ -27,10 +28,13 @@ enum Row {
     CoaxDataRow = 7,
     AntennaRow = 9,
     BottomPadding,
-    RowCount,
+    CardRowCount,
+    CommandGap = CardRowCount,
+    CommandRow,
 };
 
 constexpr int kResultsColumn = 1;
+constexpr int kColumnCount = 3;
 constexpr int kSystemStretch = 20;
 constexpr int kResultsStretch = 29;
 
@@ -48,7 +52,7 @@ void AddCard(QGridLayout& grid, int column, QWidget& content)
 {
     auto* card = new Card(Card::Kind::Card, &content);
     card->lower();
-    grid.addWidget(card, TopPadding, column, RowCount, 1);
+    grid.addWidget(card, TopPadding, column, CardRowCount, 1);
 }
 
 /// Widgets one above the other, as high as they want to be: what is left belongs to the rows between the frames.
@@ -110,13 +114,13 @@ void AddResults(QGridLayout& grid, ResultsFrame& results, QWidget& content)
     auto* inset = new QVBoxLayout;
     inset->addWidget(&results);
     inset->setContentsMargins(2 * BaseUnit(), 2 * BaseUnit(), 2 * BaseUnit(), BaseUnit());
-    grid.addLayout(inset, TopPadding, kResultsColumn, RowCount, 1);
+    grid.addLayout(inset, TopPadding, kResultsColumn, CardRowCount, 1);
     grid.setColumnStretch(kResultsColumn, kResultsStretch);
 }
 
 void SpaceRows(QGridLayout& grid)
 {
-    for (const int row : {TopPadding, BottomPadding}) {
+    for (const int row : {TopPadding, BottomPadding, CommandGap}) {
         grid.setRowMinimumHeight(row, 2 * BaseUnit());
     }
     for (const int row : {PowerRow + 1, FrequencyRow + 1, CoaxRow + 1, CoaxDataRow + 1}) {
@@ -206,6 +210,7 @@ void LayOutWindow(QMainWindow& window, QWidget& content, const WindowParts& part
         AddSystem(*grid, parts, system, content);
     }
     AddResults(*grid, *parts.results, content);
+    grid->addWidget(parts.commands, CommandRow, 0, 1, kColumnCount);
     SpaceRows(*grid);
     parts.coaxLoss->hide();
     parts.antennaGain->hide();
@@ -228,6 +233,7 @@ void SetWindowTabOrder(const WindowParts& parts)
             order << parts.antennaGain->TabOrder();
         }
     }
+    order << parts.commands->TabOrder();
     for (qsizetype next = 1; next < order.size(); ++next) {
         QWidget::setTabOrder(order[next - 1], order[next]);
     }

@@ -156,7 +156,7 @@ protected:
     }
 };
 
-TEST_F(TabOrder, GoesDownSystemOneThenDownSystemTwo)
+TEST_F(TabOrder, GoesDownSystemOneThenDownSystemTwoThenToTheButtons)
 {
     Open();
     const std::vector<std::string> expected{"txtOutputPower(1)",
@@ -192,7 +192,10 @@ TEST_F(TabOrder, GoesDownSystemOneThenDownSystemTwo)
                                             "vsSystemTwoNumConnectors",
                                             "cboSystemTwoAntenna(0)",
                                             "cboSystemTwoAntenna(1)",
-                                            "cboSystemTwoAntenna(2)"};
+                                            "cboSystemTwoAntenna(2)",
+                                            "cmdSaveSystem",
+                                            "cmdLoadSystem",
+                                            "cmdPrint"};
     EXPECT_EQ(TabRound("txtOutputPower(1)"), expected);
 }
 
