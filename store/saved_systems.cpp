@@ -50,16 +50,20 @@ SavedSystems::Slot SavedSystems::SystemExists(std::string_view name) const
     return {static_cast<int>(found - names.begin()) + 1, found != names.end() || name.empty()};
 }
 
-bool SavedSystems::Write(int slot, std::string_view name, const SystemPair& pair)
+bool SavedSystems::Write(Slot slot, std::string_view name, const SystemPair& pair)
 {
     constexpr std::int32_t kFailed = 0;
     const std::vector<std::pair<std::string, std::string>> entries = PairEntries(pair);
+    // A list that could not be read for once looks empty: writing its first entry would lose all the others.
+    if (SystemExists(name) != slot) {
+        return false;
+    }
     ProfileBatch batch(m_store, m_readWrite.DataFilePath());
-    std::vector<std::int32_t> results{m_readWrite.IniWrite(kSavedSystems, SlotKey(slot), name)};
+    std::vector<std::int32_t> results{m_readWrite.IniWrite(kSavedSystems, SlotKey(slot.number), name)};
     for (const auto& [key, value] : entries) {
         results.push_back(m_readWrite.IniWrite(name, key, value));
     }
-    results.push_back(m_readWrite.IniWrite(kSavedSystems, SlotKey(slot + 1), ""));
+    results.push_back(m_readWrite.IniWrite(kSavedSystems, SlotKey(slot.number + 1), ""));
     if (std::find(results.begin(), results.end(), kFailed) != results.end() || !batch.Commit()) {
         return false;
     }

@@ -15,7 +15,7 @@ namespace quillon::store {
 inline constexpr std::string_view kSavedSystems = "SavedSystems";
 
 /// The saved-systems file: a list of names, and one section per pair of systems. All names and texts are in the file's
-/// code page. ReadWrite must have chosen the "Systems" data set.
+/// code page. DataFileCheck comes first: it chooses the file that all others work on.
 class SavedSystems
 {
 public:
@@ -25,6 +25,9 @@ public:
         , m_store(store)
     {
     }
+
+    /// Chooses the saved-systems file. @return whether it is there; the user is told when it is not.
+    bool DataFileCheck() { return m_readWrite.DataFileCheck("Systems"); }
 
     /// The listed names in file order, up to the first that is missing or empty.
     [[nodiscard]] std::vector<std::string> Names() const;
@@ -43,11 +46,12 @@ public:
 
     /// Writes both systems under a name, with one replacement of the file. As given, the list ends behind the entry
     /// written: what was listed there, and all that follows it, keeps its section but is listed no more.
-    /// @param slot  number of the entry that gets the name.
+    /// @param slot  what SystemExists gave for the name.
     /// @return whether all of it stands in the file. A name that is too long is not written, and told to the user,
-    ///         while the rest is; when the file cannot be written it stands as before.
+    ///         while the rest is. When the file cannot be written, or the slot is no longer the name's, the file stands
+    ///         as before.
     /// @throws ArithmeticError when a figure is not finite; nothing is written then.
-    [[nodiscard]] bool Write(int slot, std::string_view name, const SystemPair& pair);
+    [[nodiscard]] bool Write(Slot slot, std::string_view name, const SystemPair& pair);
 
     /// As the functions of the same names, from the file as it stands now.
     [[nodiscard]] std::variant<SystemPair, DamagedValue> ReadPair(std::string_view name) const;

@@ -30,7 +30,8 @@ bool Save(const support::TempFolder& folder, FileCalls& calls)
     ProfileStore store(calls);
     support::RecordingNotifier notifier;
     ReadWrite readWrite(ProgramFolder(folder / "Quillon"), store, notifier);
-    return readWrite.DataFileCheck("Systems") && SavedSystems(readWrite, store).Write(1, "A", support::SamplePair());
+    SavedSystems saved(readWrite, store);
+    return saved.DataFileCheck() && saved.Write(saved.SystemExists("A"), "A", support::SamplePair());
 }
 
 /// The file as a save that nothing disturbs leaves it.

@@ -28,12 +28,12 @@ protected:
     void Put(std::string_view bytes)
     {
         m_folder.Put(kFile, bytes);
-        ASSERT_TRUE(m_readWrite.DataFileCheck("Systems"));
+        ASSERT_TRUE(m_saved.DataFileCheck());
     }
 
     bool Save(const std::string& name)
     {
-        return m_saved.Write(m_saved.SystemExists(name).number, name, support::SamplePair());
+        return m_saved.Write(m_saved.SystemExists(name), name, support::SamplePair());
     }
 
     std::string Bytes() { return m_folder.Get(kFile).value_or("no file"); }
@@ -152,16 +152,16 @@ class SavedBytes : public SavedSystemsTest, public ::testing::WithParamInterface
 TEST_P(SavedBytes, EqualThoseOfWritingKeyByKey)
 {
     Put(GetParam().bytes);
-    const int slot = m_saved.SystemExists("b").number;
+    const Slot slot = m_saved.SystemExists("b");
     EXPECT_TRUE(m_saved.Write(slot, "b", support::SamplePair()));
     const std::string atOnce = Bytes();
 
     Put(GetParam().bytes);
-    m_readWrite.IniWrite("SavedSystems", "System:" + std::to_string(slot), "b");
+    m_readWrite.IniWrite("SavedSystems", "System:" + std::to_string(slot.number), "b");
     for (const auto& [key, value] : PairEntries(support::SamplePair())) {
         m_readWrite.IniWrite("b", key, value);
     }
-    m_readWrite.IniWrite("SavedSystems", "System:" + std::to_string(slot + 1), "");
+    m_readWrite.IniWrite("SavedSystems", "System:" + std::to_string(slot.number + 1), "");
     EXPECT_EQ(atOnce, Bytes());
     EXPECT_NE(atOnce, GetParam().bytes);
 }
@@ -178,6 +178,15 @@ INSTANTIATE_TEST_SUITE_P(Files, SavedBytes, ::testing::Values(
     support::RowName());
 
 // clang-format on
+
+TEST_F(SavedSystemsTest, MissingFileIsTold)
+{
+    EXPECT_FALSE(m_saved.DataFileCheck());
+    ASSERT_EQ(m_notifier.Messages().size(), 1U);
+    EXPECT_EQ(m_notifier.Messages()[0].title, "Data File Missing");
+    EXPECT_EQ(m_notifier.Messages()[0].text, "Data file " + (m_folder / kFile).string() + " is missing or corrupt.");
+    EXPECT_TRUE(m_saved.Names().empty());
+}
 
 TEST_F(SavedSystemsTest, SaveReplacesTheFileOnce)
 {
@@ -216,8 +225,18 @@ TEST_F(SavedSystemsTest, TextThatWouldNotStayOneLineKeepsAllFromBeingWritten)
     Put("[SavedSystems]\n");
     SystemPair pair = support::SamplePair();
     pair[engine::SystemId::Two].CoaxModel = std::string_view("a\0b", 3);
-    EXPECT_FALSE(m_saved.Write(1, "A", pair));
+    EXPECT_FALSE(m_saved.Write({1, false}, "A", pair));
     EXPECT_EQ(Bytes(), "[SavedSystems]\n");
+}
+
+TEST_F(SavedSystemsTest, SlotThatIsNoLongerTheNamesIsNotWritten)
+{
+    Put("[SavedSystems]\nSystem:1=A\n");
+    const Slot slot = m_saved.SystemExists("B");
+    Put("[SavedSystems]\nSystem:1=A\nSystem:2=C\n");
+    EXPECT_FALSE(m_saved.Write(slot, "B", support::SamplePair()));
+    EXPECT_FALSE(m_saved.Write({2, true}, "C2", support::SamplePair()));
+    EXPECT_EQ(Bytes(), "[SavedSystems]\nSystem:1=A\nSystem:2=C\n");
 }
 
 TEST_F(SavedSystemsTest, MissingPairIsDamagedAtItsFirstRequiredValue)

@@ -1,5 +1,6 @@
 #include "ui/platform/message_notifier.h"
 
+#include <QApplication>
 #include <QMessageBox>
 
 namespace quillon::ui {
@@ -20,7 +21,9 @@ MessageNotifier::MessageNotifier(QWidget* owner)
 
 void MessageNotifier::Inform(std::string_view text, std::string_view title)
 {
-    QMessageBox box(m_owner);
+    // A dialog that is open must not come to stand in front of its message.
+    QWidget* dialog = QApplication::activeModalWidget();
+    QMessageBox box(dialog != nullptr ? dialog : m_owner);
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setIcon(QMessageBox::Information);
     box.setWindowTitle(title.empty() ? QStringLiteral("Quillon") : FromUtf8(title));

@@ -10,7 +10,7 @@ namespace quillon::ui {
 class MessageNotifier : public engine::Notifier
 {
 public:
-    /// @param owner  window that the boxes belong to; may be null until there is one.
+    /// @param owner  window that the boxes belong to while no dialog is open; may be null until there is one.
     explicit MessageNotifier(QWidget* owner = nullptr);
 
     void SetOwner(QWidget* owner) { m_owner = owner; }

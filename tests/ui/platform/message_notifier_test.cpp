@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -61,6 +62,26 @@ TEST(MessageNotifier, MarkupInATextIsShownAsItStands)
     const SeenBox seen = Inform("<b>A&B</b>.DAT", "Quillon");
     EXPECT_EQ(seen.format, Qt::PlainText);
     EXPECT_EQ(seen.text, QStringLiteral("<b>A&B</b>.DAT"));
+}
+
+TEST(MessageNotifier, BelongsToTheDialogThatIsOpenElseToItsOwner)
+{
+    QWidget owner;
+    QDialog dialog;
+    MessageNotifier notifier(&owner);
+    QList<QObject*> parents;
+    const auto inform = [&notifier, &parents] {
+        QTimer::singleShot(0, [&parents] {
+            QWidget* box = QApplication::activeModalWidget();
+            parents.append(box->parent());
+            box->close();
+        });
+        notifier.Inform("No data", "");
+    };
+    inform();
+    dialog.open();
+    inform();
+    EXPECT_EQ(parents, (QList<QObject*>{&owner, &dialog}));
 }
 
 TEST(MessageNotifier, TextsAreUtf8)

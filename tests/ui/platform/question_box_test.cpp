@@ -1,0 +1,56 @@
+#include "ui/platform/question_box.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace quillon::ui {
+namespace {
+
+bool AskAnd(const std::function<void(QMessageBox&)>& answer)
+{
+    QTimer::singleShot(0, [answer] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            answer(*box);
+        }
+    });
+    return AskYesNo(nullptr, QStringLiteral("Update <b>A & B</b>?"), QStringLiteral("Save"));
+}
+
+TEST(QuestionBox, ShowsItsTextAsItStands)
+{
+    AskAnd([](QMessageBox& box) {
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.text(), QStringLiteral("Update <b>A & B</b>?"));
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Save"));
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_TRUE(box.isModal());
+        box.reject();
+    });
+}
+
+TEST(QuestionBox, TellsYesFromNo)
+{
+    EXPECT_TRUE(AskAnd([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); }));
+    EXPECT_FALSE(AskAnd([](QMessageBox& box) { box.button(QMessageBox::No)->click(); }));
+}
+
+TEST(QuestionBox, NoIsTheDefaultAndWhatEscAndClosingMean)
+{
+    EXPECT_FALSE(AskAnd([](QMessageBox& box) {
+        EXPECT_TRUE(box.button(QMessageBox::No) == box.defaultButton());
+        QTest::keyClick(&box, Qt::Key_Return);
+    }));
+    EXPECT_FALSE(AskAnd([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
+    EXPECT_FALSE(AskAnd([](QMessageBox& box) { box.close(); }));
+}
+
+} // namespace
+} // namespace quillon::ui

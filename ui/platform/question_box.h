@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace quillon::ui {
+
+/// Asks in a modal box with Yes and No, as plain text. No is the default, and what closing the box means.
+/// @param owner  window that the box belongs to.
+/// @return whether the answer was Yes.
+[[nodiscard]] bool AskYesNo(QWidget* owner, const QString& text, const QString& title);
+
+} // namespace quillon::ui

@@ -1,0 +1,104 @@
+#include "ui/systems/pair_dialog.h"
+
+#include "ui/widgets/card.h"
+#include "ui/widgets/list_keys.h"
+#include "ui/widgets/looks.h"
+
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace quillon::ui {
+
+namespace {
+
+enum Row { FieldRow, SystemsRow, ButtonsRow };
+
+constexpr int kColumns = 2;
+
+void AddInCard(QGridLayout& grid, QWidget* frame, Row row, int column, int columns)
+{
+    auto* card = new Card(Card::Kind::Card, frame->parentWidget());
+    card->lower();
+    grid.addWidget(card, row, column, 1, columns);
+
+    auto* inset = new QVBoxLayout;
+    const int margin = 5 * BaseUnit() / 2;
+    inset->setContentsMargins(margin, 2 * BaseUnit(), margin, margin);
+    inset->addWidget(frame);
+    grid.addLayout(inset, row, column, 1, columns);
+}
+
+QHBoxLayout* ButtonsAtTheRight(const QList<QPushButton*>& buttons)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * BaseUnit());
+    row->addStretch(1);
+    for (QPushButton* button : buttons) {
+        row->addWidget(button);
+    }
+    return row;
+}
+
+} // namespace
+
+PairDialog::PairDialog(const QString& lines, QWidget* parent)
+    : QDialog(parent)
+    , m_frames{new SystemFrame(engine::SystemId::One, lines, this), new SystemFrame(engine::SystemId::Two, lines, this)}
+{
+}
+
+void PairDialog::LayOut(TitledFrame* fieldFrame, QWidget* field, const QList<QPushButton*>& buttons)
+{
+    m_buttons = buttons;
+    auto* inFrame = new QVBoxLayout(fieldFrame);
+    inFrame->setContentsMargins(0, 0, 0, 0);
+    inFrame->addWidget(field);
+    field->setAccessibleName(fieldFrame->title());
+
+    const int unit = BaseUnit();
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(3 * unit, 3 * unit, 3 * unit, 3 * unit);
+    grid->setSpacing(2 * unit);
+    AddInCard(*grid, fieldFrame, FieldRow, 0, kColumns);
+    AddInCard(*grid, m_frames[engine::SystemId::One], SystemsRow, 0, 1);
+    AddInCard(*grid, m_frames[engine::SystemId::Two], SystemsRow, 1, 1);
+    grid->addLayout(ButtonsAtTheRight(buttons), ButtonsRow, 0, 1, kColumns, Qt::AlignBottom);
+    grid->setRowStretch(ButtonsRow, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+
+    QWidget* before = field;
+    for (QPushButton* button : buttons) {
+        button->setAutoDefault(false);
+        setTabOrder(before, button);
+        before = button;
+    }
+}
+
+void PairDialog::FitButtons()
+{
+    int width = 0;
+    for (const QPushButton* button : m_buttons) {
+        const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+        width = std::max(width, caption.width() + 5 * BaseUnit());
+    }
+    for (QPushButton* button : m_buttons) {
+        button->setMinimumWidth(width);
+    }
+}
+
+void PairDialog::keyPressEvent(QKeyEvent* event)
+{
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (button == nullptr || !IsEnter(*event)) {
+        QDialog::keyPressEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        button->click();
+    }
+}
+
+} // namespace quillon::ui
