@@ -1,5 +1,6 @@
 #include "store/saved_systems.h"
 
+#include "engine/computable.h"
 #include "engine/text_compare.h"
 #include "store/entry_name.h"
 #include "store/profile_batch.h"
@@ -72,7 +73,15 @@ bool SavedSystems::Write(Slot slot, std::string_view name, const SystemPair& pai
 
 std::variant<SystemPair, DamagedValue> SavedSystems::ReadPair(std::string_view name) const
 {
-    return store::ReadPair(File(), name);
+    std::variant<SystemPair, DamagedValue> read = store::ReadPair(File(), name);
+    if (const auto* pair = std::get_if<SystemPair>(&read)) {
+        for (const engine::SystemId system : engine::kBothSystems) {
+            if (!engine::CanCompute((*pair)[system])) {
+                return DamagedValue{"System" + std::to_string(Number(system)), "", DamagedValue::Fault::NotComputable};
+            }
+        }
+    }
+    return read;
 }
 
 engine::PerSystem<SystemNames> SavedSystems::ReadNames(std::string_view name) const

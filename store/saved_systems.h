@@ -53,7 +53,8 @@ public:
     /// @throws ArithmeticError when a figure is not finite; nothing is written then.
     [[nodiscard]] bool Write(Slot slot, std::string_view name, const SystemPair& pair);
 
-    /// As the functions of the same names, from the file as it stands now.
+    /// As the functions of the same names, from the file as it stands now. A pair that cannot be computed with is
+    /// damaged, too.
     [[nodiscard]] std::variant<SystemPair, DamagedValue> ReadPair(std::string_view name) const;
     [[nodiscard]] engine::PerSystem<SystemNames> ReadNames(std::string_view name) const;
 

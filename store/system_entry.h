@@ -33,10 +33,11 @@ struct DamagedValue
     enum class Fault {
         Missing,
         NoNumber,
-        TooLarge ///< a whole number beyond 16 bits
+        TooLarge,     ///< a whole number beyond 16 bits
+        NotComputable ///< each figure will do, but the system's results would overflow
     };
 
-    std::string key;
+    std::string key;   ///< "System1" or "System2" alone when no one key is to blame
     std::string value; ///< as it stands in the file
     Fault fault;
 

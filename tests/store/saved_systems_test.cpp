@@ -245,6 +245,15 @@ TEST_F(SavedSystemsTest, MissingPairIsDamagedAtItsFirstRequiredValue)
     EXPECT_EQ(std::get<DamagedValue>(m_saved.ReadPair("A")).key, "System1AntennaGain");
 }
 
+TEST_F(SavedSystemsTest, PairWhoseResultsWouldOverflowIsDamaged)
+{
+    std::string entries = support::SampleEntries("\n");
+    entries.replace(entries.find("System1XmitPower=100"), 20, "System1XmitPower=3e38");
+    Put("[A]\n" + entries);
+    EXPECT_EQ(std::get<DamagedValue>(m_saved.ReadPair("A")),
+              (DamagedValue{"System1", "", DamagedValue::Fault::NotComputable}));
+}
+
 TEST_F(SavedSystemsTest, TenThousandPairsAreListedAndReadWithOneReadOfTheFile)
 {
     std::string list = "[SavedSystems]\n";

@@ -23,6 +23,8 @@ QString DamageText(const QString& name, const store::DamagedValue& damage)
         return QStringLiteral("“%1” cannot be loaded: its %2 is “%3”, which is not a number.").arg(name, key, value);
     case Fault::TooLarge:
         return QStringLiteral("“%1” cannot be loaded: its %2 is “%3”, which is too large.").arg(name, key, value);
+    case Fault::NotComputable:
+        return QStringLiteral("“%1” cannot be loaded: the figures of its %2 cannot be computed with.").arg(name, key);
     case Fault::Missing:
         break;
     }

@@ -249,6 +249,9 @@ INSTANTIATE_TEST_SUITE_P(Values, DamagedPair, ::testing::Values(
               "“Field Day” cannot be loaded: its System2CoaxType is “32768”, which is too large."},
     DamageRow{"coax loss no number", "System1CoaxLoss=2", "System1CoaxLoss=two",
               "“Field Day” cannot be loaded: its System1CoaxLoss is “two”, which is not a number."},
+    DamageRow{"results that would overflow", "System2CoaxLoss=0\nSystem2CoaxLength=0",
+              "System2CoaxLoss=3e38\nSystem2CoaxLength=3e38",
+              "“Field Day” cannot be loaded: the figures of its System2 cannot be computed with."},
     DamageRow{"coax length missing", "System2CoaxLength=0\n", "",
               "“Field Day” cannot be loaded: its System2CoaxLength is missing."}), support::RowName());
 
