@@ -9,6 +9,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include <csignal>
+
 namespace quillon::test {
 
 namespace {
@@ -39,6 +41,13 @@ QString Program(const QString& name)
 {
     const QString found = QStandardPaths::findExecutable(name);
     return found.isEmpty() ? QStringLiteral("/usr/sbin/") + name : found;
+}
+
+void Signal(const QProcess& process, int signal)
+{
+    if (process.state() == QProcess::Running) {
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+    }
 }
 
 constexpr const char* kFiles = R"(SystemGroup root
@@ -97,6 +106,7 @@ PrivateCups::PrivateCups(const std::vector<PrivateQueue>& queues)
 
 PrivateCups::~PrivateCups()
 {
+    Signal(m_service, SIGCONT);
     m_service.terminate();
     if (!m_service.waitForFinished(kPatienceMilliseconds)) {
         m_service.kill();
@@ -158,6 +168,11 @@ QByteArray PrivateCups::Server() const
     return QByteArray::fromStdString((m_folder / kSocket).string());
 }
 
+void PrivateCups::FallSilent()
+{
+    Signal(m_service, SIGSTOP);
+}
+
 void PrivateCups::Die()
 {
     m_service.kill();
@@ -181,7 +196,7 @@ void PrivateCups::LetGo()
 
 QString PrivateCups::Caught(int job) const
 {
-    const QString path = QString::fromStdString((m_folder / "caught").string()) + QStringLiteral("/%1.pdf").arg(job);
+    QString path = QString::fromStdString((m_folder / "caught").string()) + QStringLiteral("/%1.pdf").arg(job);
     if (!QTest::qWaitFor([&path] { return QFile::exists(path); }, kPatienceMilliseconds)) {
         throw std::runtime_error("the print service caught no job " + std::to_string(job));
     }

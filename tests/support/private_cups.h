@@ -40,6 +40,8 @@ public:
     [[nodiscard]] QByteArray Server() const;
     /// Ends the service at once, as a crash does.
     void Die();
+    /// Lets the service take requests and answer none, as one that is overloaded.
+    void FallSilent();
     void Remove(const std::string& queue);
     /// Lets queues that wait go on.
     void LetGo();

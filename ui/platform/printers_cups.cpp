@@ -4,14 +4,32 @@
 #include "ui/platform/printers_job.h"
 #include "ui/platform/printers_page.h"
 
+#include <QEventLoop>
 #include <QFontDatabase>
+#include <QScopeGuard>
 
 #include <algorithm>
+#include <future>
 #include <iterator>
 
 namespace quillon::ui {
 
 namespace {
+
+// A service that answers late must not freeze the window: it is asked from a thread of its own, while the window goes
+// on to paint itself. Input waits, so nothing is begun twice.
+template <class Question>
+auto AskAside(const Question& question)
+{
+    QEventLoop waiting;
+    auto answer = std::async(std::launch::async, [&waiting, &question] {
+        const auto answered =
+            qScopeGuard([&waiting] { QMetaObject::invokeMethod(&waiting, &QEventLoop::quit, Qt::QueuedConnection); });
+        return question();
+    });
+    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    return answer.get();
+}
 
 QString SourceOf(const QString& printer)
 {
@@ -57,6 +75,19 @@ JobState AskForJob(IppConnection& service, const QString& printer, int job)
     }
 }
 
+IppMessage PrintRequest(const QString& printer, const PrintJob& job)
+{
+    IppMessage request = IppRequestAbout(IPP_OP_PRINT_JOB, printer);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, job.title.toUtf8().constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr, "application/pdf");
+    if (const QByteArray media = MediaName(job.page); !media.isEmpty()) {
+        ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "media", nullptr, media.constData());
+    }
+    // The page has been laid out for this paper: nothing on the way to it may change its size.
+    ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "print-scaling", nullptr, "none");
+    return request;
+}
+
 } // namespace
 
 CupsPrinters::CupsPrinters(QByteArray server)
@@ -66,19 +97,21 @@ CupsPrinters::CupsPrinters(QByteArray server)
 
 QStringList CupsPrinters::Names()
 {
-    try {
-        IppMessage request = IppRequest(IPP_OP_CUPS_GET_PRINTERS);
-        Want(*request, {"printer-name"});
-        const IppMessage answer = IppConnection(m_server).Ask(std::move(request), SourceOf({}));
+    return AskAside([this] {
         QStringList names;
-        for (ipp_attribute_t* found = ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME); found != nullptr;
-             found = ippFindNextAttribute(answer.get(), "printer-name", IPP_TAG_NAME)) {
-            names << QString::fromUtf8(ippGetString(found, 0, nullptr));
+        try {
+            IppMessage request = IppRequest(IPP_OP_CUPS_GET_PRINTERS);
+            Want(*request, {"printer-name"});
+            const IppMessage answer = IppConnection(m_server).Ask(std::move(request), SourceOf({}));
+            for (ipp_attribute_t* found = ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME);
+                 found != nullptr; found = ippFindNextAttribute(answer.get(), "printer-name", IPP_TAG_NAME)) {
+                names << QString::fromUtf8(ippGetString(found, 0, nullptr));
+            }
+        } catch (const PrintError&) {
+            names.clear();
         }
         return names;
-    } catch (const PrintError&) {
-        return {};
-    }
+    });
 }
 
 QStringList CupsPrinters::FontNames()
@@ -94,47 +127,47 @@ QStringList CupsPrinters::FontNames()
 
 QPageLayout CupsPrinters::LandscapePage(const QString& printer)
 {
-    IppConnection service(m_server);
-    const IppMessage description = Describe(service, printer);
-    CheckReady(StateIn(*description), SourceOf(printer));
-    return LandscapePageIn(*description);
+    return AskAside([this, &printer] {
+        IppConnection service(m_server);
+        const IppMessage description = Describe(service, printer);
+        CheckReady(StateIn(*description), SourceOf(printer));
+        return LandscapePageIn(*description);
+    });
 }
 
 int CupsPrinters::Submit(const QString& printer, const PrintJob& job)
 {
-    IppMessage request = IppRequestAbout(IPP_OP_PRINT_JOB, printer);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, job.title.toUtf8().constData());
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr, "application/pdf");
-    if (const QByteArray media = MediaName(job.page); !media.isEmpty()) {
-        ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "media", nullptr, media.constData());
-    }
-    // The page has been laid out for this paper: nothing on the way to it may change its size.
-    ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "print-scaling", nullptr, "none");
-    const IppMessage answer = IppConnection(m_server).Ask(std::move(request), SourceOf(printer), job.pdf);
-    return IntegerIn(*answer, "job-id", 0);
+    return AskAside([this, &printer, &job] {
+        const IppMessage answer = IppConnection(m_server).Ask(PrintRequest(printer, job), SourceOf(printer), job.pdf);
+        return IntegerIn(*answer, "job-id", 0);
+    });
 }
 
 JobNews CupsPrinters::LookAt(const QString& printer, int job)
 {
-    try {
-        IppConnection service(m_server);
-        const JobState state = AskForJob(service, printer, job);
-        const IppMessage description = Describe(service, printer);
-        return JudgeJob(state, StateIn(*description), SourceOf(printer, job));
-    } catch (const PrintError& error) {
-        return {JobPhase::Failed, error};
-    }
+    return AskAside([this, &printer, job]() -> JobNews {
+        try {
+            IppConnection service(m_server);
+            const JobState state = AskForJob(service, printer, job);
+            const IppMessage description = Describe(service, printer);
+            return JudgeJob(state, StateIn(*description), SourceOf(printer, job));
+        } catch (const PrintError& error) {
+            return {JobPhase::Failed, error};
+        }
+    });
 }
 
 void CupsPrinters::Cancel(const QString& printer, int job)
 {
-    try {
-        IppMessage request = IppRequestAbout(IPP_OP_CANCEL_JOB, printer);
-        ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
-        static_cast<void>(IppConnection(m_server).Ask(std::move(request), SourceOf(printer, job)));
-    } catch (const PrintError&) {
-        // Nothing is left to end.
-    }
+    AskAside([this, &printer, job] {
+        try {
+            IppMessage request = IppRequestAbout(IPP_OP_CANCEL_JOB, printer);
+            ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+            static_cast<void>(IppConnection(m_server).Ask(std::move(request), SourceOf(printer, job)));
+        } catch (const PrintError&) {
+            // Nothing is left to end.
+        }
+    });
 }
 
 } // namespace quillon::ui

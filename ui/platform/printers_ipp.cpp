@@ -31,9 +31,12 @@ const char* NoPassword(const char*, http_t*, const char*, const char*, void*)
 PrintError LastError(const QString& source)
 {
     const ipp_status_t status = cupsLastError();
-    const bool isError = status > IPP_STATUS_OK_EVENTS_COMPLETE;
-    return {static_cast<int>(isError ? status : IPP_STATUS_ERROR_SERVICE_UNAVAILABLE),
-            QString::fromUtf8(cupsLastErrorString()), source};
+    // The library calls silence an internal error whose text is "Success".
+    if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_INTERNAL) {
+        return {IPP_STATUS_ERROR_SERVICE_UNAVAILABLE,
+                QString::fromUtf8(ippErrorString(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE)), source};
+    }
+    return {static_cast<int>(status), QString::fromUtf8(cupsLastErrorString()), source};
 }
 
 /// A document in memory that has a descriptor, as the library wants to read it.
@@ -44,31 +47,27 @@ public:
         : m_descriptor(::memfd_create("page", MFD_CLOEXEC))
     {
         QFile file;
-        if (m_descriptor < 0 || !file.open(m_descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-            file.write(bytes) != bytes.size()) {
-            const PrintError error(IPP_STATUS_ERROR_INTERNAL, QString::fromLocal8Bit(std::strerror(errno)),
-                                   QStringLiteral("Quillon"));
-            Close();
-            throw error;
-        }
+        m_whole = m_descriptor >= 0 && file.open(m_descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                  file.write(bytes) == bytes.size();
     }
 
-    ~MemoryFile() { Close(); }
-
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-
-    [[nodiscard]] int Descriptor() const noexcept { return m_descriptor; }
-
-private:
-    void Close() const
+    ~MemoryFile()
     {
         if (m_descriptor >= 0) {
             ::close(m_descriptor);
         }
     }
 
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+
+    [[nodiscard]] int Descriptor() const noexcept { return m_descriptor; }
+
+    [[nodiscard]] bool IsWhole() const noexcept { return m_whole; }
+
+private:
     int m_descriptor;
+    bool m_whole = false;
 };
 
 ipp_attribute_t* Find(ipp_t& answer, const char* attribute)
@@ -96,6 +95,9 @@ IppMessage IppConnection::Ask(IppMessage request, const QString& source, const Q
         answer.reset(cupsDoRequest(m_http.get(), request.release(), "/"));
     } else {
         const MemoryFile file(document);
+        if (!file.IsWhole()) {
+            throw PrintError(ENOMEM, QString::fromLocal8Bit(std::strerror(ENOMEM)), QStringLiteral("Quillon"));
+        }
         answer.reset(cupsDoIORequest(m_http.get(), request.release(), "/", file.Descriptor(), -1));
     }
     if (!answer || ippGetStatusCode(answer.get()) > IPP_STATUS_OK_EVENTS_COMPLETE) {

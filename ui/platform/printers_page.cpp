@@ -4,6 +4,7 @@
 #include <cups/pwg.h>
 
 #include <QLocale>
+#include <QSizeF>
 
 #include <algorithm>
 #include <optional>

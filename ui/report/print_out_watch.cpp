@@ -23,12 +23,18 @@ void JobWatch::Start(const QString& printer, int job)
 
 void JobWatch::Stop()
 {
+    m_job = 0;
     m_timer.stop();
 }
 
 void JobWatch::Look()
 {
-    const JobNews news = m_printers.LookAt(m_printer, m_job);
+    const int job = m_job;
+    const JobNews news = m_printers.LookAt(m_printer, job);
+    // The window lives while the printers are asked: it may have been closed.
+    if (job != m_job) {
+        return;
+    }
     if (news.phase != m_phase) {
         m_phase = news.phase;
         m_inPhase.start();

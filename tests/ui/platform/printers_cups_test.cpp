@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -234,6 +235,20 @@ TEST_F(CupsPrintersTest, AServiceThatDiesIsAnErrorOfTheJob)
     const JobNews news = slow.News();
     EXPECT_EQ(news.phase, JobPhase::Failed);
     EXPECT_EQ(news.trouble.number, 1282);
+}
+
+TEST_F(CupsPrintersTest, AServiceThatFallsSilentIsAnErrorSoonAndFreezesNoWindow)
+{
+    SlowJob slow;
+    slow.cups.FallSilent();
+    int ticks = 0;
+    QTimer ticking;
+    ticking.callOnTimeout([&ticks] { ++ticks; });
+    ticking.start(50);
+    const PrintError error = ErrorOf([&] { return slow.printers.LandscapePage(slow.printer); });
+    EXPECT_EQ(error.number, 1282);
+    EXPECT_EQ(error.text, QStringLiteral("server-error-service-unavailable"));
+    EXPECT_GT(ticks, 10);
 }
 
 TEST_F(CupsPrintersTest, APrinterThatIsRemovedIsAnErrorOfItsJobs)

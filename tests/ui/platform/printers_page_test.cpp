@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
+#include <QRectF>
 
+#include <array>
+#include <cstddef>
 #include <memory>
 
 namespace quillon::ui {

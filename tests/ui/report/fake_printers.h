@@ -2,7 +2,7 @@
 
 #include "ui/platform/printers.h"
 
-#include <algorithm>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +23,7 @@ public:
     std::vector<std::string> calls; ///< all but looks at a job
     std::vector<ui::PrintJob> jobs;
     int looks = 0;
+    std::function<void()> duringLook; ///< what happens while a job is looked at
 
     QStringList Names() override
     {
@@ -54,6 +55,9 @@ public:
     ui::JobNews LookAt(const QString&, int) override
     {
         ++looks;
+        if (duringLook) {
+            duringLook();
+        }
         return news;
     }
 

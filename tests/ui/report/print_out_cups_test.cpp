@@ -135,7 +135,7 @@ TEST_P(PrintedPages, AreOneLandscapePageWithEveryRowInTheMiddle)
     EXPECT_FALSE(page.fontFlags.contains(QStringLiteral("no")));
 
     // The form is 14400 twips wide; the notes line stands 2190 from its left edge and 6720 from its top.
-    const double left = row.millimetres.width() / 2 + (2190 - 14400 / 2) * kMillimetresPerTwip;
+    const double left = row.millimetres.width() / 2 + (2190 - 14400 / 2.0) * kMillimetresPerTwip;
     const double top =
         row.millimetres.height() / 2 + (6720 - printout.report.SizeInTwips().height() / 2.0) * kMillimetresPerTwip;
     const QPointF notes = page.PlaceOf(QStringLiteral("Notes:"));

@@ -98,5 +98,19 @@ TEST(JobWatch, LooksNoMoreOnceItIsStopped)
     EXPECT_EQ(printers.looks, 0);
 }
 
+TEST(JobWatch, TellsNothingOfAJobWhenItIsStoppedDuringALook)
+{
+    FakePrinters printers;
+    JobWatch watch(printers, kShort);
+    printers.news.phase = JobPhase::Failed;
+    printers.duringLook = [&watch] { watch.Stop(); };
+    const QSignalSpy failed(&watch, &JobWatch::Failed);
+    watch.Start(QStringLiteral("Shack"), 41);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return printers.looks > 0; }));
+    QTest::qWait(20);
+    EXPECT_EQ(failed.count(), 0);
+    EXPECT_EQ(printers.looks, 1);
+}
+
 } // namespace
 } // namespace quillon::ui

@@ -23,7 +23,7 @@ QString OutputOf(const QString& program, const QStringList& arguments)
 
 QRegularExpressionMatch Match(const QString& text, const QString& pattern)
 {
-    const QRegularExpressionMatch match = QRegularExpression(pattern, QRegularExpression::MultilineOption).match(text);
+    QRegularExpressionMatch match = QRegularExpression(pattern, QRegularExpression::MultilineOption).match(text);
     if (!match.hasMatch()) {
         throw std::runtime_error("no " + pattern.toStdString() + " in:\n" + text.toStdString());
     }
@@ -40,10 +40,11 @@ PrintedPage::PrintedPage(const QString& path)
     const QRegularExpressionMatch paper = Match(info, "^Page size: +([\\d.]+) x ([\\d.]+) pts");
     size = QSizeF(paper.captured(1).toDouble(), paper.captured(2).toDouble()) * kMillimetresPerPoint;
 
-    // Two lines of heading; then "name type encoding emb sub uni object ID", the type with a blank in it.
+    // Two lines of heading; then "name type encoding emb sub uni object ID", the type and the ID with blanks in them.
     const QStringList fonts = OutputOf("pdffonts", {path}).split('\n', Qt::SkipEmptyParts).mid(2);
     for (const QString& font : fonts) {
-        fontFlags << font.simplified().split(' ').value(-1 + font.simplified().split(' ').size() - 4);
+        const QStringList columns = font.simplified().split(' ');
+        fontFlags << columns.value(columns.size() - 5);
     }
 
     const QRegularExpression word("<word xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\"[^>]*>([^<]*)</word>");
