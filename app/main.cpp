@@ -1,3 +1,4 @@
+#include "app/dialogs.h"
 #include "engine/records.h"
 #include "store/catalogue.h"
 #include "store/program_folder.h"
@@ -32,6 +33,7 @@ int main(int argc, char* argv[])
     ui::MessageNotifier notifier;
     ui::Quillon window({systems, hooks, notifier, catalogue});
     notifier.SetOwner(&window);
+    const Dialogs dialogs(window, folder, notifier);
     window.Load();
     window.show();
     return QApplication::exec();

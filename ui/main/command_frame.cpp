@@ -11,7 +11,7 @@
 namespace quillon::ui {
 
 CommandFrame::CommandFrame(QWidget* parent)
-    : QGroupBox(parent)
+    : TitledFrame({}, parent)
 {
     setObjectName(QStringLiteral("FrameControls"));
     auto* row = new QHBoxLayout(this);
@@ -36,15 +36,10 @@ QList<QWidget*> CommandFrame::TabOrder() const
 
 void CommandFrame::changeEvent(QEvent* event)
 {
-    QGroupBox::changeEvent(event);
+    TitledFrame::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
         FitButtons();
     }
-}
-
-void CommandFrame::paintEvent(QPaintEvent* /*event*/)
-{
-    // The buttons need neither a box nor a title around them.
 }
 
 void CommandFrame::FitButtons()

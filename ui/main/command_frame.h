@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ui/main/commands.h"
+#include "ui/widgets/titled_frame.h"
 
-#include <QGroupBox>
 #include <QList>
 
 class QPushButton;
@@ -10,7 +10,7 @@ class QPushButton;
 namespace quillon::ui {
 
 /// The command buttons below the frames of both systems.
-class CommandFrame : public QGroupBox
+class CommandFrame : public TitledFrame
 {
     Q_OBJECT
 
@@ -24,7 +24,6 @@ signals:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     /// Gives all buttons the width of the widest caption.
