@@ -27,6 +27,11 @@ PrivateProfile SampleWith(const std::string& key, const std::string& line)
     return PrivateProfile(bytes);
 }
 
+PrivateProfile SampleWithValue(const std::string& key, const std::string& value)
+{
+    return SampleWith(key, std::string(key).append("=").append(value));
+}
+
 std::string FileOf(const SystemPair& pair)
 {
     PrivateProfile file;
@@ -40,7 +45,7 @@ TEST(SystemEntry, HoldsTwelveFieldsOfEachSystemInTheirOrder)
 {
     std::string lines;
     for (const auto& [key, value] : PairEntries(support::SamplePair())) {
-        lines += key + "=" + value + "\n";
+        lines.append(key).append("=").append(value).append("\n");
     }
     EXPECT_EQ(lines, support::SampleEntries("\n"));
 }
@@ -165,7 +170,7 @@ TEST_P(RequiredValue, MustStartWithANumber)
 {
     for (const std::string value : {"abc", "x1", ".", "-", "\" \"", "inf", "nan"}) {
         const std::string key = std::string("System2") + GetParam();
-        const DamagedValue damage = Damage(key, key + "=" + value);
+        const auto damage = std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home"));
         EXPECT_EQ(damage.key, key) << value;
         EXPECT_EQ(damage.fault, Fault::NoNumber) << value;
     }
@@ -197,7 +202,7 @@ TEST_P(OddValue, IsReadAsFarAsItGoes)
     const std::string key = GetParam().key;
     SystemPair wanted = support::SamplePair();
     GetParam().apply(wanted[SystemId::One]);
-    const auto read = ReadPair(SampleWith(key, key + "=" + GetParam().value), "home");
+    const auto read = ReadPair(SampleWithValue(key, GetParam().value), "home");
     ASSERT_TRUE(std::holds_alternative<SystemPair>(read));
     EXPECT_EQ(std::get<SystemPair>(read), wanted);
 }
@@ -231,7 +236,7 @@ TEST(SystemEntry, WholeNumberBeyond16BitsIsRefused)
 {
     for (const std::string key : {"System1CoaxType", "System2Connectors"}) {
         for (const std::string value : {"32768", "-32769", "1e99"}) {
-            EXPECT_EQ(std::get<DamagedValue>(ReadPair(SampleWith(key, key + "=" + value), "home")),
+            EXPECT_EQ(std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home")),
                       (DamagedValue{key, value, Fault::TooLarge}));
         }
     }
