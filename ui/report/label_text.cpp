@@ -48,10 +48,11 @@ QString OneLine(QString text)
     return text;
 }
 
-QTextOption OptionOf(const QLabel& label)
+/// @param wraps  whether lines have an end; only then can a text from right to left begin there.
+QTextOption OptionFor(const QString& paragraph, bool wraps)
 {
-    QTextOption option(label.wordWrap() ? Qt::AlignLeft : Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setWrapMode(label.wordWrap() ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
+    QTextOption option(wraps && paragraph.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+    option.setWrapMode(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
     option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setTabStopDistance(kTabStop);
     option.setUseDesignMetrics(true);
@@ -67,10 +68,9 @@ LabelText::LabelText(const QLabel& label)
     , m_wraps(label.wordWrap())
 {
     const QFont font = PaperFont(label.font());
-    const QTextOption option = OptionOf(label);
     const QStringList paragraphs = m_wraps ? Paragraphs(label.text()) : QStringList(OneLine(label.text()));
     for (const QString& paragraph : paragraphs) {
-        LayOut(paragraph, font, option);
+        LayOut(paragraph, font);
     }
     if (!m_wraps && label.alignment().testFlag(Qt::AlignHCenter)) {
         const double free = m_width - m_paragraphs.front().lineAt(0).naturalTextWidth();
@@ -78,10 +78,10 @@ LabelText::LabelText(const QLabel& label)
     }
 }
 
-void LabelText::LayOut(const QString& paragraph, const QFont& font, const QTextOption& option)
+void LabelText::LayOut(const QString& paragraph, const QFont& font)
 {
     QTextLayout& layout = m_paragraphs.emplace_back(paragraph, font);
-    layout.setTextOption(option);
+    layout.setTextOption(OptionFor(paragraph, m_wraps));
     layout.setCacheEnabled(true);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {

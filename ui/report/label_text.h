@@ -27,7 +27,7 @@ public:
     void Paint(QPainter& painter) const;
 
 private:
-    void LayOut(const QString& paragraph, const QFont& font, const QTextOption& option);
+    void LayOut(const QString& paragraph, const QFont& font);
 
     double m_left;
     double m_top;

@@ -17,6 +17,16 @@ namespace {
 /// At this resolution the page counts in twips, as the form does.
 constexpr int kTwipsPerInch = 1440;
 
+/// The whole paper lying on its long side; some papers are defined that way (Ledger), most are not.
+QPageLayout LandscapePaper(const QPageSize& size)
+{
+    const QSizeF points = size.size(QPageSize::Point);
+    const bool lies = points.width() > points.height();
+    QPageLayout paper(size, lies ? QPageLayout::Portrait : QPageLayout::Landscape, QMarginsF());
+    paper.setMode(QPageLayout::FullPageMode);
+    return paper;
+}
+
 /// How much smaller the form is drawn. Its centre is that of the paper, so the wider of two opposite margins counts on
 /// both sides.
 double ScaleOnto(const QSizeF& paper, const QMarginsF& margins, const QSizeF& form)
@@ -50,16 +60,13 @@ QByteArray RenderReport(const PrintSystemReport& form, const QPageLayout& page)
     if (!page.isValid()) {
         return {};
     }
-    QPageLayout paper(page.pageSize(), QPageLayout::Landscape, QMarginsF());
-    paper.setMode(QPageLayout::FullPageMode);
-
     QByteArray document;
     QBuffer buffer(&document);
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(kTwipsPerInch);
-        writer.setPageLayout(paper);
+        writer.setPageLayout(LandscapePaper(page.pageSize()));
         writer.setTitle(form.findChild<QLabel*>(QStringLiteral("lblHeader"))->text());
         writer.setCreator(QStringLiteral("Quillon"));
         const QMargins margins = page.marginsPixels(kTwipsPerInch);
