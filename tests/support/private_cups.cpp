@@ -98,9 +98,9 @@ std::string Entry(const PrivateQueue& queue, const std::string& caught)
 
 } // namespace
 
-PrivateCups::PrivateCups(const std::vector<PrivateQueue>& queues)
+PrivateCups::PrivateCups(const std::vector<PrivateQueue>& queues, const std::string& settings)
 {
-    LayOut(queues);
+    LayOut(queues, settings);
     Start();
 }
 
@@ -114,7 +114,7 @@ PrivateCups::~PrivateCups()
     }
 }
 
-void PrivateCups::LayOut(const std::vector<PrivateQueue>& queues)
+void PrivateCups::LayOut(const std::vector<PrivateQueue>& queues, const std::string& settings)
 {
     const std::string root = m_folder.Path().string();
     for (const char* folder : {"etc/ppd", "spool", "tmp", "cache", "run", "log", "bin/backend", "caught"}) {
@@ -128,7 +128,7 @@ void PrivateCups::LayOut(const std::vector<PrivateQueue>& queues)
     // Without permissions for others, so that the service runs it as the user that these folders belong to.
     fs::permissions(m_folder.Put("bin/backend/catch", SupportFile("catch.sh")), fs::perms::owner_all);
     m_folder.Put("etc/cups-files.conf", Replaced(kFiles, "@", root));
-    m_folder.Put("etc/cupsd.conf", Replaced(kSettings, "@", root));
+    m_folder.Put("etc/cupsd.conf", settings + Replaced(kSettings, "@", root));
     std::string printers;
     for (const PrivateQueue& queue : queues) {
         printers += Entry(queue, root + "/caught");

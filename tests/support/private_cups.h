@@ -30,8 +30,9 @@ class PrivateCups
 {
 public:
     /// Returns when the service answers.
+    /// @param settings  lines of its settings besides those that it needs
     /// @throws std::runtime_error when it does not start, with what it wrote
-    explicit PrivateCups(const std::vector<PrivateQueue>& queues);
+    explicit PrivateCups(const std::vector<PrivateQueue>& queues, const std::string& settings = {});
     ~PrivateCups();
     PrivateCups(const PrivateCups&) = delete;
     PrivateCups& operator=(const PrivateCups&) = delete;
@@ -57,7 +58,7 @@ public:
     [[nodiscard]] std::vector<std::string> Requests() const;
 
 private:
-    void LayOut(const std::vector<PrivateQueue>& queues);
+    void LayOut(const std::vector<PrivateQueue>& queues, const std::string& settings);
     void Start();
 
     support::TempFolder m_folder;

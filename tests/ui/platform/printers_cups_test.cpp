@@ -167,6 +167,16 @@ TEST_F(CupsPrintersTest, AJobIsPrintingUntilItIsPrinted)
     EXPECT_EQ(m_printers.LookAt(slow, first).phase, JobPhase::Ended);
 }
 
+TEST_F(CupsPrintersTest, AJobThatTheServiceKnowsNoMoreHasEnded)
+{
+    PrivateCups cups(std::vector<PrivateQueue>{{.name = "Shack"}}, "PreserveJobHistory No\n");
+    CupsPrinters printers(cups.Server());
+    const QString shack = QStringLiteral("Shack");
+    const int job = printers.Submit(shack, {QStringLiteral("Report"), kPdf, printers.LandscapePage(shack)});
+    EXPECT_FALSE(cups.Caught(job).isEmpty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return printers.LookAt(shack, job).phase == JobPhase::Ended; }));
+}
+
 TEST_F(CupsPrintersTest, ACancelledJobEndsAndIsNotPrinted)
 {
     SlowJob slow;

@@ -54,7 +54,7 @@ public:
         : cups(std::vector<PrivateQueue>{queue})
         , printers(cups.Server())
         , dialog(report, printers, notifier, nullptr,
-                 {std::chrono::milliseconds(20), std::chrono::milliseconds(300), std::chrono::milliseconds(5000)})
+                 {std::chrono::milliseconds(20), std::chrono::seconds(30), std::chrono::seconds(30)})
     {
         systems.Data[engine::SystemId::One] = ABeam();
         systems.Data[engine::SystemId::Two] = ABeam();
@@ -174,10 +174,21 @@ class PrintTroubles : public ::testing::TestWithParam<TroubleOn>
 {
 };
 
-bool HasThePage(const PrivateCups& cups)
+bool HasAnswered(const PrivateCups& cups, const char* request)
 {
     const std::vector<std::string> requests = cups.Requests();
-    return std::find(requests.begin(), requests.end(), "Print-Job") != requests.end();
+    return std::find(requests.begin(), requests.end(), request) != requests.end();
+}
+
+bool HasThePage(const PrivateCups& cups)
+{
+    return HasAnswered(cups, "Print-Job");
+}
+
+/// The dialog knows the job's number by now.
+bool IsWatched(const PrivateCups& cups)
+{
+    return HasAnswered(cups, "Get-Job-Attributes");
 }
 
 TEST_P(PrintTroubles, EndInTheMessage)
@@ -277,7 +288,7 @@ TEST(PrintOutOnCups, StopCancelsTheJob)
     Printout printout({.name = "Shack", .fault = "?wait"});
     QTimer during;
     QObject::connect(&during, &QTimer::timeout, &during, [&] {
-        if (HasThePage(printout.cups)) {
+        if (IsWatched(printout.cups)) {
             during.stop();
             test::Find<QPushButton>(printout.dialog, QStringLiteral("cmdStop")).click();
         }
