@@ -72,8 +72,8 @@ class QuillonWindow:
         Atspi.init()
         self._process = subprocess.Popen([program], env={**os.environ, **settings})
         try:
-            application = wait_for("the program on the accessibility bus", self._application)
-            frame = wait_for(f'the window "{TITLE}"', lambda: self._frame(application))
+            wait_for("the program on the accessibility bus", self._application)
+            frame = wait_for(f'the window "{TITLE}"', lambda: self._window(TITLE))
             self.id = wait_for("the window on the display", self._window_id)
             self._xdotool("windowactivate", "--sync", self.id)
             wait_for("the window to become active", lambda: has_state(frame, Atspi.StateType.ACTIVE))
@@ -146,6 +146,14 @@ class QuillonWindow:
         for kind, entry in zip(("antenna brand", "antenna model", "antenna band"), antenna, strict=True):
             self.choose(f"System {system} {kind}", entry)
 
+    def wait_for_dialog(self, title):
+        """Returns once a dialog of the program is open and has the keyboard."""
+        wait_for(f'the dialog "{title}"', lambda: self._active(title), lambda: f"among {self._titles()}")
+
+    def wait_for_no_dialog(self):
+        """Returns once the main window has the keyboard again."""
+        wait_for("the main window to become active", lambda: self._active(TITLE))
+
     def press(self, key):
         self._xdotool("key", key)
 
@@ -161,11 +169,21 @@ class QuillonWindow:
         children = map(desktop.get_child_at_index, range(desktop.get_child_count()))
         return next((child for child in children if child and child.get_process_id() == self._process.pid), None)
 
-    @staticmethod
-    def _frame(application):
+    def _windows(self):
+        application = self._application()
         application.clear_cache()
         children = map(application.get_child_at_index, range(application.get_child_count()))
-        return next((child for child in children if child and child.get_name() == TITLE), None)
+        return [child for child in children if child]
+
+    def _titles(self):
+        return [child.get_name() for child in self._windows()]
+
+    def _window(self, title):
+        return next((child for child in self._windows() if child.get_name() == title), None)
+
+    def _active(self, title):
+        window = self._window(title)
+        return window is not None and has_state(window, Atspi.StateType.ACTIVE)
 
     def _window_id(self):
         search = ["xdotool", "search", "--onlyvisible", "--all", "--pid", str(self._process.pid), "--name", TITLE]
