@@ -2,10 +2,8 @@
 
 #include <array>
 
-namespace quillon::ui {
-
 /// Where the report's labels stand, in twips (1/1440 inch). A label's geometry counts in pixels of 15 twips.
-namespace report_layout {
+namespace quillon::ui::report_layout {
 
 inline constexpr int kTwipsPerPixel = 15;
 inline constexpr int kTwipsPerPoint = 20;
@@ -28,6 +26,4 @@ inline constexpr int kResultLeft = 8355;
 /// Keeps a text that fills its column off the next one.
 inline constexpr int kColumnGap = 90;
 
-} // namespace report_layout
-
-} // namespace quillon::ui
+} // namespace quillon::ui::report_layout

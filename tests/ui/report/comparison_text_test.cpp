@@ -13,7 +13,6 @@ namespace {
 
 using engine::SystemData;
 using engine::SystemId;
-using engine::SystemResults;
 using Field = ComparisonField ComparisonTexts::*;
 
 std::string Characters(const ComparisonField& field)
