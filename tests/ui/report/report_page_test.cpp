@@ -169,12 +169,16 @@ TEST_F(ReportPage, IsEmptyWithoutPaper)
     EXPECT_TRUE(Render(QPageLayout()).isEmpty());
 }
 
-TEST_F(ReportPage, KeepsOutOfWideMarginsOnBothSides)
+TEST_F(ReportPage, TakesTheWiderOfTwoMarginsOnBothSidesToStayInTheMiddle)
 {
-    // Two inches at the left: the form stays in the middle, so it keeps as far from the right.
-    const test::PageImage image(Render(Page(QPageSize::A4, {144, 18, 18, 18})));
-    EXPECT_GE(image.Ink().left(), 2880);
-    EXPECT_LE(image.Ink().right(), image.Size().width() - 2880);
+    const auto inkWithin = [this](const QMarginsF& points) {
+        return test::PageImage(Render(Page(QPageSize::A4, points))).Ink();
+    };
+    // Two inches at the sides or half as much above and below: the form has to give way.
+    EXPECT_EQ(inkWithin({144, 18, 18, 18}), inkWithin({144, 18, 144, 18}));
+    EXPECT_EQ(inkWithin({18, 18, 144, 18}), inkWithin({144, 18, 144, 18}));
+    EXPECT_EQ(inkWithin({18, 72, 18, 18}), inkWithin({18, 72, 18, 72}));
+    EXPECT_EQ(inkWithin({18, 18, 18, 72}), inkWithin({18, 72, 18, 72}));
 }
 
 TEST_F(ReportPage, IsDrawnSmallerForMarginsOnlyWhenItHasTo)
