@@ -11,6 +11,8 @@
 
 #include <csignal>
 
+#include <sys/prctl.h>
+
 namespace quillon::test {
 
 namespace {
@@ -143,6 +145,8 @@ void PrivateCups::Start()
 {
     const QString etc = QString::fromStdString((m_folder / "etc").string());
     m_service.setProcessChannelMode(QProcess::MergedChannels);
+    // Tests that are killed leave no service behind.
+    m_service.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     m_service.start(Program(QStringLiteral("cupsd")),
                     {QStringLiteral("-f"), QStringLiteral("-c"), etc + QStringLiteral("/cupsd.conf"),
                      QStringLiteral("-s"), etc + QStringLiteral("/cups-files.conf")});
