@@ -6,9 +6,13 @@
 #include "store/entry_name.h"
 #include "store/profile_lines.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <optional>
+#include <system_error>
 #include <type_traits>
 
 namespace quillon::store {
@@ -58,17 +62,39 @@ std::optional<Fault> TakeNumber(std::int16_t& figure, float number)
     }
 }
 
+/// The smallest number that no longer rounds to one of 32 bits.
+constexpr double kBeyondFloat = 0x1.ffffffp127;
+
+/// What is wrong with a text that has to be a number within 32 bits and nothing else: "3,9" is no 3.
+std::optional<Fault> FaultOfNumber(std::string_view text)
+{
+    constexpr char kBlank = ' ';
+    text.remove_prefix(std::min(text.find_first_not_of(kBlank), text.size()));
+    text.remove_suffix(text.size() - (text.find_last_not_of(kBlank) + 1));
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    double number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (read.ec == std::errc::invalid_argument || read.ptr != text.data() + text.size() || !std::isfinite(number)) {
+        return Fault::NoNumber;
+    }
+    const bool tooLarge = read.ec != std::errc() || std::abs(number) >= kBeyondFloat;
+    return tooLarge ? std::optional(Fault::TooLarge) : std::nullopt;
+}
+
 /// @param value  not empty.
 template <auto Member>
 std::optional<Fault> Take(SystemData& data, std::string_view value, Field::Need need)
 {
     using Type = std::remove_cvref_t<decltype(data.*Member)>;
     if constexpr (std::is_arithmetic_v<Type>) {
-        const std::optional<float> number = engine::ReadNumber(value);
-        if (!number && need == Field::Need::Required) {
-            return Fault::NoNumber;
+        if (need == Field::Need::Required) {
+            if (const std::optional<Fault> fault = FaultOfNumber(value)) {
+                return fault;
+            }
         }
-        return TakeNumber(data.*Member, number.value_or(0.0F));
+        return TakeNumber(data.*Member, engine::ReadNumber(value).value_or(0.0F));
     } else {
         data.*Member = value;
         return std::nullopt;

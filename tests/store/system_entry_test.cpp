@@ -166,13 +166,22 @@ TEST_P(RequiredValue, IsMissedInEitherSystem)
     }
 }
 
-TEST_P(RequiredValue, MustStartWithANumber)
+TEST_P(RequiredValue, MustBeANumberAndNothingElse)
 {
-    for (const std::string value : {"abc", "x1", ".", "-", "\" \"", "inf", "nan"}) {
+    for (const std::string value : {"abc", "x1", ".", "-", "+", "\" \"", "inf", "nan", "7.5 dBd", "3,9", "1.2.3"}) {
         const std::string key = std::string("System2") + GetParam();
         const auto damage = std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home"));
         EXPECT_EQ(damage.key, key) << value;
         EXPECT_EQ(damage.fault, Fault::NoNumber) << value;
+    }
+}
+
+TEST_P(RequiredValue, MustFitInto32Bits)
+{
+    for (const std::string value : {"1e99", "-1e39", "1e999"}) {
+        const std::string key = std::string("System1") + GetParam();
+        EXPECT_EQ(std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home")),
+                  (DamagedValue{key, value, Fault::TooLarge}));
     }
 }
 
@@ -209,8 +218,9 @@ TEST_P(OddValue, IsReadAsFarAsItGoes)
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Values, OddValue, ::testing::Values(
-    OddRow{"number with its unit", "System1AntennaGain", "7.5 dBd", [](auto& data) { data.AntennaGain = 7.5F; }},
-    OddRow{"decimal comma ends the number", "System1CoaxLoss", "3,9", [](auto& data) { data.CoaxLoss = 3; }},
+    OddRow{"number between blanks in quotes", "System1CoaxLoss", "\" 3.9 \"", [](auto& data) { data.CoaxLoss = 3.9F; }},
+    OddRow{"number with a plus sign", "System1AntennaGain", "+7.5", [](auto& data) { data.AntennaGain = 7.5F; }},
+    OddRow{"power with its unit", "System1XmitPower", "50 W", [](auto& data) { data.XmitPower = 50; }},
     OddRow{"whole number from a fraction, halves to even", "System1CoaxType", "2.5", [](auto& data) { data.CoaxType = 2; }},
     OddRow{"smallest whole number", "System1CoaxType", "-32768", [](auto& data) { data.CoaxType = -32768; }},
     OddRow{"connectors that are no number are none", "System1Connectors", "two", [](auto& data) { data.Connectors = 0; }},
