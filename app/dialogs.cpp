@@ -4,9 +4,10 @@
 
 namespace quillon {
 
-Dialogs::Dialogs(ui::Quillon& window, store::ProgramFolder folder, engine::Notifier& notifier)
+Dialogs::Dialogs(ui::Quillon& window, store::ProgramFolder folder, engine::Notifier& notifier, ui::Printers& printers)
     : m_window(window)
     , m_notifier(notifier)
+    , m_printers(printers)
     , m_readWrite(std::move(folder), m_store, notifier)
 {
     connect(&window, &ui::Quillon::CommandGiven, this, &Dialogs::Show);

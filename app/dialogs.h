@@ -3,7 +3,7 @@
 #include "store/profile_store.h"
 #include "store/read_write.h"
 #include "ui/main/quillon_window.h"
-#include "ui/platform/printers_cups.h"
+#include "ui/platform/printers.h"
 #include "ui/report/print_out.h"
 #include "ui/report/print_system_report.h"
 #include "ui/systems/load_system.h"
@@ -20,8 +20,8 @@ class Dialogs : public QObject
     Q_OBJECT
 
 public:
-    /// @param window, notifier  outlive this object.
-    Dialogs(ui::Quillon& window, store::ProgramFolder folder, engine::Notifier& notifier);
+    /// @param window, notifier, printers  outlive this object.
+    Dialogs(ui::Quillon& window, store::ProgramFolder folder, engine::Notifier& notifier, ui::Printers& printers);
 
     void Show(ui::Command command);
 
@@ -33,9 +33,9 @@ private:
 
     ui::Quillon& m_window;
     engine::Notifier& m_notifier;
+    ui::Printers& m_printers;
     store::ProfileStore m_store;
     store::ReadWrite m_readWrite;
-    ui::CupsPrinters m_printers;
     std::unique_ptr<ui::PrintSystemReport> m_report;
     ui::SaveSystem* m_saveSystem = nullptr;
     ui::LoadSystem* m_loadSystem = nullptr;

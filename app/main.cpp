@@ -5,6 +5,7 @@
 #include "ui/main/quillon_window.h"
 #include "ui/platform/desktop_hooks.h"
 #include "ui/platform/message_notifier.h"
+#include "ui/platform/printers_cups.h"
 #include "ui/platform/single_instance.h"
 #include "ui/widgets/quillon_style.h"
 
@@ -33,7 +34,8 @@ int main(int argc, char* argv[])
     ui::MessageNotifier notifier;
     ui::Quillon window({systems, hooks, notifier, catalogue});
     notifier.SetOwner(&window);
-    const Dialogs dialogs(window, folder, notifier);
+    ui::CupsPrinters printers;
+    const Dialogs dialogs(window, folder, notifier, printers);
     window.Load();
     window.show();
     return QApplication::exec();
