@@ -19,6 +19,10 @@ public:
 
     void SetSavedFlags() override { m_calls.emplace_back("SetSavedFlags"); }
 
+    void LoadAntennaMakers() override { m_calls.emplace_back("LoadAntennaMakers"); }
+
+    void ReloadAntennas(const std::string& maker) override { m_calls.push_back("ReloadAntennas " + maker); }
+
     [[nodiscard]] const std::vector<std::string>& Calls() const noexcept { return m_calls; }
 
 private:

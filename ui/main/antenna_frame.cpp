@@ -4,11 +4,11 @@
 #include "engine/bands.h"
 #include "engine/mask.h"
 #include "engine/number_text.h"
-#include "ui/main/catalogue_text.h"
-#include "ui/main/list_group.h"
 #include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
 #include "ui/main/typed_number.h"
+#include "ui/widgets/catalogue_text.h"
+#include "ui/widgets/list_group.h"
 #include "ui/widgets/object_names.h"
 
 #include <QVBoxLayout>
@@ -94,6 +94,24 @@ void AntennaFrame::LoadAntennaGain(const QByteArray& maker, const QByteArray& mo
     const store::Catalogue& catalogue = Work().Catalogue();
     m_lists[Band]->Fill(
         SectionEntries(catalogue.LoadAntennaGain(maker.toStdString(), model.toStdString(), Work().Bands())));
+}
+
+void AntennaFrame::Reload(const QByteArray& maker)
+{
+    if (!m_lists[Brand]->HasChoice() || m_lists[Brand]->ChosenName() != maker) {
+        return;
+    }
+    m_lists[Model]->Refill(SectionEntries(Work().Catalogue().LoadAntennas(maker.toStdString())));
+    const QByteArray model = m_lists[Model]->ChosenName();
+    const bool hadBand = m_lists[Band]->HasChoice();
+    m_lists[Band]->Refill(
+        SectionEntries(Work().Catalogue().LoadAntennaGain(maker.toStdString(), model.toStdString(), Work().Bands())));
+    // While the lists are out of use, a typed gain is in force: it is the user's, and stays.
+    if (m_lists[Band]->HasChoice() && m_lists[Band]->isEnabledTo(this)) {
+        BandChosen();
+    } else if (hadBand && !m_lists[Band]->HasChoice()) {
+        m_port.SetFrequencyFollowsBand(false);
+    }
 }
 
 void AntennaFrame::SetListsEnabled(bool enabled)

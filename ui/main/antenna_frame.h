@@ -24,6 +24,9 @@ public:
     void LoadAntennas(const QByteArray& maker);
     /// Adds a model's bands to the band list.
     void LoadAntennaGain(const QByteArray& maker, const QByteArray& model);
+    /// Follows a change of a maker's file: the lists below the brand are filled anew, and the chosen band's gain is
+    /// taken over again. Without effect while another maker is chosen.
+    void Reload(const QByteArray& maker);
     void cboAntenna_Click(int index);
     /// Chooses the record's brand, model and band in the lists. What a list does not have stays as the record holds it.
     void ShowRecord();

@@ -1,8 +1,8 @@
 #include "ui/main/antenna_gain_frame.h"
 
 #include "engine/spin_conversions.h"
-#include "ui/main/layout_parts.h"
 #include "ui/main/spin_ranges.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 

@@ -3,9 +3,9 @@
 #include "engine/arithmetic_error.h"
 #include "engine/coax_model.h"
 #include "engine/spin_conversions.h"
-#include "ui/main/layout_parts.h"
 #include "ui/main/spin_ranges.h"
 #include "ui/main/typed_number.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 

@@ -2,12 +2,12 @@
 
 #include "engine/coax_model.h"
 #include "engine/number_text.h"
-#include "ui/main/catalogue_text.h"
-#include "ui/main/layout_parts.h"
-#include "ui/main/list_group.h"
 #include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
 #include "ui/main/typed_number.h"
+#include "ui/widgets/catalogue_text.h"
+#include "ui/widgets/layout_parts.h"
+#include "ui/widgets/list_group.h"
 #include "ui/widgets/object_names.h"
 
 #include <QVBoxLayout>

@@ -1,9 +1,9 @@
 #include "ui/main/frequency_frame.h"
 
 #include "engine/bands.h"
-#include "ui/main/layout_parts.h"
 #include "ui/main/spin_ranges.h"
 #include "ui/main/system_port.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 

@@ -1,8 +1,8 @@
 #include "ui/main/quillon_window.h"
 
-#include "ui/main/catalogue_text.h"
 #include "ui/main/menu_bar.h"
 #include "ui/main/window_layout.h"
+#include "ui/widgets/catalogue_text.h"
 
 #include <QEvent>
 #include <QMenuBar>
@@ -94,6 +94,13 @@ void Quillon::LoadAntennaMakers()
     const QList<CatalogueEntry> makers = MakerEntries(m_workspace.Catalogue().LoadAntennaMakers());
     for (const engine::SystemId system : engine::kBothSystems) {
         m_columns[system]->Antenna()->SetMakers(makers);
+    }
+}
+
+void Quillon::ReloadAntennas(const std::string& maker)
+{
+    for (const engine::SystemId system : engine::kBothSystems) {
+        m_columns[system]->Antenna()->Reload(QByteArray::fromStdString(maker));
     }
 }
 

@@ -44,8 +44,8 @@ public:
 
     void SetSavedFlags() override { m_workspace.SetSavedFlags(); }
 
-    /// Fills the antenna brand lists of both systems, keeping what is chosen.
-    void LoadAntennaMakers();
+    void LoadAntennaMakers() override;
+    void ReloadAntennas(const std::string& maker) override;
     /// Fills the coax brand lists of both systems, keeping what is chosen.
     void LoadCableMakers();
 

@@ -2,8 +2,8 @@
 
 #include "engine/fixed_text.h"
 #include "engine/text_compare.h"
-#include "ui/main/catalogue_text.h"
 #include "ui/widgets/catalogue_list_box.h"
+#include "ui/widgets/catalogue_text.h"
 
 #include <functional>
 

@@ -2,8 +2,8 @@
 
 #include "engine/mask.h"
 #include "engine/spin_conversions.h"
-#include "ui/main/layout_parts.h"
 #include "ui/main/spin_ranges.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 

@@ -2,6 +2,8 @@
 
 #include "engine/records.h"
 
+#include <string>
+
 namespace quillon::ui {
 
 /// What the dialogs ask of the main window. Systems are numbered 1 and 2; any other number throws std::out_of_range.
@@ -18,6 +20,12 @@ public:
     virtual void ShowRecord(int system) = 0;
     /// Notes that both systems stand in the saved-systems file as they are.
     virtual void SetSavedFlags() = 0;
+    /// Fills the antenna brand lists of both systems anew; what is chosen stays chosen.
+    virtual void LoadAntennaMakers() = 0;
+    /// Follows a change of a maker's models or gain figures: wherever the maker is chosen, the model and band lists are
+    /// filled anew, what is chosen stays chosen and the antenna's gain is the catalogue's of now.
+    /// @param maker  bytes as in its file's name
+    virtual void ReloadAntennas(const std::string& maker) = 0;
 };
 
 } // namespace quillon::ui

@@ -1,4 +1,4 @@
-#include "ui/main/catalogue_text.h"
+#include "ui/widgets/catalogue_text.h"
 
 #include "store/code_page.h"
 

@@ -1,7 +1,7 @@
-#include "ui/main/list_group.h"
+#include "ui/widgets/list_group.h"
 
-#include "ui/main/layout_parts.h"
 #include "ui/widgets/catalogue_list_box.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 

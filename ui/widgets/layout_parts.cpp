@@ -1,4 +1,4 @@
-#include "ui/main/layout_parts.h"
+#include "ui/widgets/layout_parts.h"
 
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
