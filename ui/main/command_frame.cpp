@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -18,14 +19,22 @@ CommandFrame::CommandFrame(QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2 * BaseUnit());
     for (const CommandButton& button : kCommandButtons) {
+        if (button.command == Command::Close) {
+            row->addStretch(1);
+        }
         auto* made = new QPushButton(QString::fromLatin1(button.caption), this);
         made->setObjectName(QString::fromLatin1(button.name));
         made->setToolTip(QString::fromLatin1(button.toolTip));
-        connect(made, &QPushButton::clicked, this, [this, &button] { emit Given(button.command); });
+        const auto give = [this, &button] { emit Given(button.command); };
+        connect(made, &QPushButton::clicked, this, give);
+        if (*button.shortcut != '\0') {
+            // Not the button's own shortcut: that would take the place of the caption's access key.
+            const QKeySequence keys(QString::fromLatin1(button.shortcut));
+            connect(new QShortcut(keys, made), &QShortcut::activated, this, give);
+        }
         row->addWidget(made);
         m_buttons.append(made);
     }
-    row->addStretch(1);
     FitButtons();
 }
 

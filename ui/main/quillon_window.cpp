@@ -4,7 +4,7 @@
 #include "ui/main/window_layout.h"
 #include "ui/widgets/catalogue_text.h"
 
-#include <QEvent>
+#include <QCloseEvent>
 #include <QMenuBar>
 
 namespace quillon::ui {
@@ -118,6 +118,12 @@ void Quillon::changeEvent(QEvent* event)
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
         FitFrameTitles();
     }
+}
+
+void Quillon::closeEvent(QCloseEvent* event)
+{
+    QMainWindow::closeEvent(event);
+    emit Unloaded();
 }
 
 bool Quillon::eventFilter(QObject* watched, QEvent* event)

@@ -52,8 +52,11 @@ public:
 signals:
     /// A person asks for something that other windows do.
     void CommandGiven(Command command);
+    /// The window is unloaded, by its close box or otherwise, and with it the program.
+    void Unloaded();
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -195,7 +195,11 @@ TEST_F(TabOrder, GoesDownSystemOneThenDownSystemTwoThenToTheButtons)
                                             "cboSystemTwoAntenna(2)",
                                             "cmdSaveSystem",
                                             "cmdLoadSystem",
-                                            "cmdPrint"};
+                                            "cmdPrint",
+                                            "cmdEditAntennas",
+                                            "cmddBTable",
+                                            "cmdCalculator",
+                                            "cmdClose"};
     EXPECT_EQ(TabRound("txtOutputPower(1)"), expected);
 }
 
