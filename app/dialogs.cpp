@@ -1,16 +1,18 @@
 #include "app/dialogs.h"
 
-#include <utility>
+#include "app/closing.h"
+#include "ui/platform/addresses.h"
+#include "ui/platform/question_box.h"
+
+#include <QUrl>
 
 namespace quillon {
 
-Dialogs::Dialogs(ui::Quillon& window, store::ProgramFolder folder, engine::Notifier& notifier, ui::Printers& printers)
-    : m_window(window)
-    , m_notifier(notifier)
-    , m_printers(printers)
-    , m_readWrite(std::move(folder), m_store, notifier)
+Dialogs::Dialogs(const DialogParts& parts)
+    : m_parts(parts)
+    , m_readWrite(parts.folder, parts.store, parts.notifier)
 {
-    connect(&window, &ui::Quillon::CommandGiven, this, &Dialogs::Show);
+    connect(&parts.window, &ui::Quillon::CommandGiven, this, &Dialogs::Show);
 }
 
 void Dialogs::Show(ui::Command command)
@@ -26,13 +28,45 @@ void Dialogs::Show(ui::Command command)
     case ui::Command::PrintSystem:
         // As given, the menu's entry prints the report as it was built last.
         return PrintOut().Open();
+    case ui::Command::EditAntennas:
+    case ui::Command::ShowDBTable:
+    case ui::Command::About:
+    case ui::Command::HelpContents:
+        return;
+    case ui::Command::Calculator:
+        return m_parts.shell.StartCalculator();
+    case ui::Command::QuillonOnline:
+        return m_parts.shell.Open(QUrl(ui::kProductPage.toString()));
+    case ui::Command::Tarvel:
+        return m_parts.shell.Open(QUrl(ui::kMakerPage.toString()));
+    case ui::Command::Close:
+        return Close();
+    }
+}
+
+void Dialogs::Close()
+{
+    if (!HasUnsavedPair(m_parts.window.Systems())) {
+        m_parts.window.close();
+        return;
+    }
+    switch (ui::AskYesNoCancel(&m_parts.window, QStringLiteral("A system has been configured. Do you want to save it?"),
+                               QStringLiteral("Save Configured System?"))) {
+    case ui::Answer::Yes:
+        return SaveSystem().OpenBeside();
+    case ui::Answer::No:
+        m_parts.window.close();
+        return;
+    case ui::Answer::Cancel:
+        return;
     }
 }
 
 ui::SaveSystem& Dialogs::SaveSystem()
 {
     if (m_saveSystem == nullptr) {
-        m_saveSystem = new ui::SaveSystem(m_window, m_readWrite, m_store, m_notifier, &m_window);
+        m_saveSystem =
+            new ui::SaveSystem(m_parts.window, m_readWrite, m_parts.store, m_parts.notifier, &m_parts.window);
     }
     return *m_saveSystem;
 }
@@ -40,7 +74,8 @@ ui::SaveSystem& Dialogs::SaveSystem()
 ui::LoadSystem& Dialogs::LoadSystem()
 {
     if (m_loadSystem == nullptr) {
-        m_loadSystem = new ui::LoadSystem(m_window, m_readWrite, m_store, m_notifier, &m_window);
+        m_loadSystem =
+            new ui::LoadSystem(m_parts.window, m_readWrite, m_parts.store, m_parts.notifier, &m_parts.window);
     }
     return *m_loadSystem;
 }
@@ -48,7 +83,8 @@ ui::LoadSystem& Dialogs::LoadSystem()
 ui::PrintSystemReport& Dialogs::Report()
 {
     if (!m_report) {
-        m_report = std::make_unique<ui::PrintSystemReport>(m_window.Systems(), m_notifier, m_window.locale());
+        m_report = std::make_unique<ui::PrintSystemReport>(m_parts.window.Systems(), m_parts.notifier,
+                                                           m_parts.window.locale());
     }
     return *m_report;
 }
@@ -56,7 +92,7 @@ ui::PrintSystemReport& Dialogs::Report()
 ui::PrintOut& Dialogs::PrintOut()
 {
     if (m_printOut == nullptr) {
-        m_printOut = new ui::PrintOut(Report(), m_printers, m_notifier, &m_window);
+        m_printOut = new ui::PrintOut(Report(), m_parts.printers, m_parts.notifier, &m_parts.window);
     }
     return *m_printOut;
 }

@@ -4,6 +4,7 @@
 #include "store/read_write.h"
 #include "ui/main/quillon_window.h"
 #include "ui/platform/printers.h"
+#include "ui/platform/shell.h"
 #include "ui/report/print_out.h"
 #include "ui/report/print_system_report.h"
 #include "ui/systems/load_system.h"
@@ -13,15 +14,25 @@
 
 namespace quillon {
 
-/// Opens what the main window's commands stand for. Each window is made when it is asked for first, belongs to the
-/// main window and serves the whole run.
+/// What the dialogs are built on; made where the program starts, outlives them.
+struct DialogParts
+{
+    ui::Quillon& window;
+    store::ProgramFolder folder;
+    store::ProfileStore& store;
+    engine::Notifier& notifier;
+    ui::Printers& printers;
+    ui::Shell& shell;
+};
+
+/// Carries out what the main window's commands stand for. Each dialog is made when it is asked for first, belongs to
+/// the main window and serves the whole run, but for the dB table, which is made anew at each opening.
 class Dialogs : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param window, notifier, printers  outlive this object.
-    Dialogs(ui::Quillon& window, store::ProgramFolder folder, engine::Notifier& notifier, ui::Printers& printers);
+    explicit Dialogs(const DialogParts& parts);
 
     void Show(ui::Command command);
 
@@ -30,11 +41,10 @@ private:
     [[nodiscard]] ui::LoadSystem& LoadSystem();
     [[nodiscard]] ui::PrintSystemReport& Report();
     [[nodiscard]] ui::PrintOut& PrintOut();
+    /// Unloads the main window, unless there is something to save and the user would rather.
+    void Close();
 
-    ui::Quillon& m_window;
-    engine::Notifier& m_notifier;
-    ui::Printers& m_printers;
-    store::ProfileStore m_store;
+    DialogParts m_parts;
     store::ReadWrite m_readWrite;
     std::unique_ptr<ui::PrintSystemReport> m_report;
     ui::SaveSystem* m_saveSystem = nullptr;

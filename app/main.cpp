@@ -6,12 +6,13 @@
 #include "ui/platform/desktop_hooks.h"
 #include "ui/platform/message_notifier.h"
 #include "ui/platform/printers_cups.h"
+#include "ui/platform/shell.h"
 #include "ui/platform/single_instance.h"
 #include "ui/widgets/quillon_style.h"
 
 #include <QApplication>
 
-#include <filesystem>
+#include <memory>
 
 int main(int argc, char* argv[])
 {
@@ -29,13 +30,16 @@ int main(int argc, char* argv[])
     ui::QuillonStyle::Install(application);
 
     engine::AntennaSystems systems;
-    const store::Catalogue catalogue(folder);
+    const auto store = std::make_shared<store::ProfileStore>();
+    const store::Catalogue catalogue(folder, store);
     ui::DesktopHooks hooks;
     ui::MessageNotifier notifier;
     ui::Quillon window({systems, hooks, notifier, catalogue});
+    QObject::connect(&window, &ui::Quillon::Unloaded, &application, &QApplication::quit, Qt::QueuedConnection);
     notifier.SetOwner(&window);
     ui::CupsPrinters printers;
-    const Dialogs dialogs(window, folder, notifier, printers);
+    ui::DesktopShell shell;
+    const Dialogs dialogs({window, folder, *store, notifier, printers, shell});
     window.Load();
     window.show();
     return QApplication::exec();

@@ -4,7 +4,11 @@
 
 namespace quillon::ui {
 
-bool AskYesNo(QWidget* owner, const QString& text, const QString& title)
+namespace {
+
+/// @param safest  the default answer, also given by Esc and by closing the box
+QMessageBox::StandardButton Ask(QWidget* owner, const QString& text, const QString& title,
+                                QMessageBox::StandardButtons answers, QMessageBox::StandardButton safest)
 {
     QMessageBox box(owner);
     box.setObjectName(QStringLiteral("QuestionBox"));
@@ -12,10 +16,29 @@ bool AskYesNo(QWidget* owner, const QString& text, const QString& title)
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    box.setStandardButtons(answers);
+    box.setDefaultButton(safest);
+    box.setEscapeButton(safest);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+bool AskYesNo(QWidget* owner, const QString& text, const QString& title)
+{
+    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+Answer AskYesNoCancel(QWidget* owner, const QString& text, const QString& title)
+{
+    switch (Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel)) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
 }
 
 } // namespace quillon::ui

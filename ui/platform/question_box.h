@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 class QWidget;
 
 namespace quillon::ui {
@@ -10,5 +12,11 @@ namespace quillon::ui {
 /// @param owner  window that the box belongs to.
 /// @return whether the answer was Yes.
 [[nodiscard]] bool AskYesNo(QWidget* owner, const QString& text, const QString& title);
+
+enum class Answer : std::uint8_t { Yes, No, Cancel };
+
+/// Asks in a modal box with Yes, No and Cancel, as plain text. Cancel is the default, and what closing the box means.
+/// @param owner  window that the box belongs to.
+[[nodiscard]] Answer AskYesNoCancel(QWidget* owner, const QString& text, const QString& title);
 
 } // namespace quillon::ui

@@ -55,8 +55,18 @@ SaveSystem::SaveSystem(MainWindowPort& window, store::ReadWrite& readWrite, stor
 
 void SaveSystem::Open()
 {
+    hide(); // It may stand open beside the main window.
     Prepare();
     exec();
+}
+
+void SaveSystem::OpenBeside()
+{
+    hide();
+    Prepare();
+    show();
+    raise();
+    activateWindow();
 }
 
 void SaveSystem::RestoreDesign()

@@ -22,6 +22,9 @@ public:
     /// Prepares the dialog and shows it until it is closed.
     void Open();
 
+    /// Prepares the dialog and shows it beside the main window, which stays usable meanwhile.
+    void OpenBeside();
+
     /// The opening steps, from the designed state: shows what is to be saved and proposes a name. Tells the user when
     /// there is nothing to save, or nowhere to save it to.
     void Prepare();

@@ -52,5 +52,35 @@ TEST(QuestionBox, NoIsTheDefaultAndWhatEscAndClosingMean)
     EXPECT_FALSE(AskAnd([](QMessageBox& box) { box.close(); }));
 }
 
+Answer AskThreeAnd(const std::function<void(QMessageBox&)>& answer)
+{
+    QTimer::singleShot(0, [answer] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            answer(*box);
+        }
+    });
+    return AskYesNoCancel(nullptr, QStringLiteral("Save <b>A & B</b>?"), QStringLiteral("Close"));
+}
+
+TEST(QuestionBox, OfThreeAnswersTellsWhichWasGiven)
+{
+    EXPECT_EQ(AskThreeAnd([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); }), Answer::Yes);
+    EXPECT_EQ(AskThreeAnd([](QMessageBox& box) { box.button(QMessageBox::No)->click(); }), Answer::No);
+    EXPECT_EQ(AskThreeAnd([](QMessageBox& box) { box.button(QMessageBox::Cancel)->click(); }), Answer::Cancel);
+}
+
+TEST(QuestionBox, OfThreeAnswersCancelIsTheDefaultAndWhatEscAndClosingMean)
+{
+    EXPECT_EQ(AskThreeAnd([](QMessageBox& box) {
+                  EXPECT_EQ(box.text(), QStringLiteral("Save <b>A & B</b>?"));
+                  EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                  EXPECT_TRUE(box.button(QMessageBox::Cancel) == box.defaultButton());
+                  QTest::keyClick(&box, Qt::Key_Return);
+              }),
+              Answer::Cancel);
+    EXPECT_EQ(AskThreeAnd([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Answer::Cancel);
+    EXPECT_EQ(AskThreeAnd([](QMessageBox& box) { box.close(); }), Answer::Cancel);
+}
+
 } // namespace
 } // namespace quillon::ui
