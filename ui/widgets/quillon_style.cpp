@@ -45,6 +45,12 @@ void QuillonStyle::Install(QApplication& /*application*/)
     }
 }
 
+int QuillonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 QPalette QuillonStyle::Treated(const QPalette& palette, Edge edge) const
 {
     // Kept from one call to the next: each new palette would fill the pixmap cache with controls of its own.

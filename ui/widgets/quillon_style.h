@@ -8,7 +8,8 @@ class QApplication;
 
 namespace quillon::ui {
 
-/// The built-in style with outlines that are seen in dark palettes too. Any other style is left as it is.
+/// The built-in style with outlines that are seen in dark palettes too, and buttons of message boxes that look
+/// like all others. Any other style is left as it is.
 class QuillonStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -23,6 +24,8 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* returned) const override;
 
 private:
     enum class Edge { Outline, Hairline };

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QPushButton>
@@ -153,6 +154,20 @@ TEST_F(Styled, UncheckedCheckBoxesAreSeen)
         best = std::max(best, Contrast(image.pixelColor(x, 15), Dark().color(QPalette::Window)));
     }
     EXPECT_GE(best, 3.0);
+}
+
+TEST(QuillonStyle, ButtonsOfMessageBoxesHaveNoIconsAsAllOthers)
+{
+    QuillonStyle style(QStyleFactory::create(QStringLiteral("fusion")));
+    QMessageBox box;
+    for (QWidget* part : box.findChildren<QWidget*>()) {
+        part->setStyle(&style);
+    }
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::Cancel);
+    box.ensurePolished();
+    for (const QAbstractButton* button : box.buttons()) {
+        EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+    }
 }
 
 } // namespace
