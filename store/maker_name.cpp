@@ -2,6 +2,7 @@
 
 #include "store/code_page.h"
 #include "store/entry_name.h"
+#include "store/profile_lines.h"
 
 #include <optional>
 #include <string>
@@ -33,6 +34,9 @@ NameFault MakerNameFault(std::string_view name)
     const std::optional<std::string> bytes = FromUtf8(name);
     if (!bytes) {
         return NameFault::NotInCodePage;
+    }
+    if (WithoutBlanks(*bytes) != *bytes) {
+        return NameFault::NotReadBack;
     }
     return bytes->size() > kLongestMakerName ? NameFault::TooLong : NameFault::None;
 }

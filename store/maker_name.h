@@ -15,7 +15,8 @@ inline constexpr std::size_t kLongestMakerName = 25;
 /// @param name  bytes as in a file name.
 [[nodiscard]] NameFault FileNameFault(std::string_view name) noexcept;
 
-/// What keeps a typed name from being a new maker's: a FileNameFault, NotInCodePage or TooLong.
+/// What keeps a typed name from being a new maker's: a FileNameFault, NotInCodePage, NotReadBack (a blank in front,
+/// which the index drops) or TooLong.
 /// @param name  UTF-8.
 [[nodiscard]] NameFault MakerNameFault(std::string_view name);
 
