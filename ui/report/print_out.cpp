@@ -2,11 +2,10 @@
 
 #include "ui/report/print_system_report.h"
 #include "ui/report/report_page.h"
-#include "ui/widgets/list_keys.h"
+#include "ui/widgets/button_keys.h"
 
 #include <QComboBox>
 #include <QEventLoop>
-#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -201,11 +200,8 @@ void PrintOut::done(int result)
 
 void PrintOut::keyPressEvent(QKeyEvent* event)
 {
-    auto* button = qobject_cast<QPushButton*>(focusWidget());
-    if (button == nullptr || !IsEnter(*event)) {
+    if (!PressFocusedButton(*this, *event)) {
         QDialog::keyPressEvent(event);
-    } else if (!event->isAutoRepeat()) {
-        button->click();
     }
 }
 

@@ -1,17 +1,15 @@
 #include "ui/report/print_out.h"
 
 #include "ui/widgets/card.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
 #include "ui/widgets/titled_frame.h"
 
 #include <QComboBox>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
-
-#include <algorithm>
 
 namespace quillon::ui {
 
@@ -50,27 +48,6 @@ void AddInCard(QVBoxLayout& column, QWidget* frame)
     inset->addWidget(frame);
     cell->addLayout(inset, 0, 0);
     column.addLayout(cell, 1);
-}
-
-QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right)
-{
-    const QList<QPushButton*> all = left + right;
-    int width = 0;
-    for (const QPushButton* button : all) {
-        const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-        width = std::max(width, caption.width() + 5 * BaseUnit());
-    }
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2 * BaseUnit());
-    for (QPushButton* button : all) {
-        if (button == right.first()) {
-            row->addStretch(1);
-        }
-        button->setAutoDefault(false);
-        button->setMinimumWidth(width);
-        row->addWidget(button);
-    }
-    return row;
 }
 
 } // namespace

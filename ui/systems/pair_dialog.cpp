@@ -1,12 +1,11 @@
 #include "ui/systems/pair_dialog.h"
 
+#include "ui/widgets/button_keys.h"
 #include "ui/widgets/card.h"
-#include "ui/widgets/list_keys.h"
 #include "ui/widgets/looks.h"
 
 #include <QFontMetrics>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 
 #include <algorithm>
@@ -93,11 +92,8 @@ void PairDialog::FitButtons()
 
 void PairDialog::keyPressEvent(QKeyEvent* event)
 {
-    auto* button = qobject_cast<QPushButton*>(focusWidget());
-    if (button == nullptr || !IsEnter(*event)) {
+    if (!PressFocusedButton(*this, *event)) {
         QDialog::keyPressEvent(event);
-    } else if (!event->isAutoRepeat()) {
-        button->click();
     }
 }
 

@@ -3,7 +3,11 @@
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
 
+#include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QPushButton>
+
+#include <algorithm>
 
 namespace quillon::ui {
 
@@ -24,6 +28,27 @@ QLabel* FieldLabel(const QString& text, QWidget* buddy, QWidget* parent)
     label->setText(text);
     label->setBuddy(buddy);
     return label;
+}
+
+QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right)
+{
+    const QList<QPushButton*> all = left + right;
+    int width = 0;
+    for (const QPushButton* button : all) {
+        const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+        width = std::max(width, caption.width() + 5 * BaseUnit());
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * BaseUnit());
+    for (QPushButton* button : all) {
+        if (button == right.first()) {
+            row->addStretch(1);
+        }
+        button->setAutoDefault(false);
+        button->setMinimumWidth(width);
+        row->addWidget(button);
+    }
+    return row;
 }
 
 } // namespace quillon::ui

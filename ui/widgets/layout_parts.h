@@ -5,6 +5,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QPushButton;
 class QWidget;
 
 namespace quillon::ui {
@@ -14,5 +15,8 @@ namespace quillon::ui {
 
 /// Quiet label of an input, its buddy: the way to the input for screen readers.
 [[nodiscard]] QLabel* FieldLabel(const QString& text, QWidget* buddy, QWidget* parent);
+
+/// Buttons at the bottom of a dialog, all as wide as the widest caption asks for, none pressed by Enter elsewhere.
+[[nodiscard]] QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right);
 
 } // namespace quillon::ui
