@@ -3,6 +3,7 @@
 #include "app/closing.h"
 #include "ui/platform/addresses.h"
 #include "ui/platform/question_box.h"
+#include "ui/table/show_table.h"
 
 #include <QUrl>
 
@@ -28,8 +29,9 @@ void Dialogs::Show(ui::Command command)
     case ui::Command::PrintSystem:
         // As given, the menu's entry prints the report as it was built last.
         return PrintOut().Open();
-    case ui::Command::EditAntennas:
     case ui::Command::ShowDBTable:
+        return ui::ShowTable(&m_parts.window).Open();
+    case ui::Command::EditAntennas:
     case ui::Command::About:
     case ui::Command::HelpContents:
         return;

@@ -5,6 +5,7 @@
 #include "tests/support/recording_notifier.h"
 #include "tests/support/temp_folder.h"
 #include "tests/ui/report/fake_printers.h"
+#include "ui/table/show_table.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -187,6 +188,19 @@ TEST_F(DialogsTest, NotesAccumulateWhileTheProgramRunsAsGiven)
     EXPECT_EQ(OnPage("lbNotes"), "Notes: A");
     Print(Command::PrintSystem, "B");
     EXPECT_EQ(OnPage("lbNotes"), "Notes: A B");
+}
+
+TEST_F(DialogsTest, EachOpeningOfTheDBTableIsAFreshOne)
+{
+    const auto scrollDown = [](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("ShowTable"));
+        EXPECT_EQ(dynamic_cast<ui::ShowTable&>(dialog).TopRow(), 0);
+        test::Find<QPushButton>(dialog, QStringLiteral("cmdPageDn")).click();
+        EXPECT_EQ(dynamic_cast<ui::ShowTable&>(dialog).TopRow(), 20);
+    };
+    ASSERT_NE(Give(Command::ShowDBTable, scrollDown), nullptr);
+    EXPECT_EQ(Window()->findChild<QDialog*>(QStringLiteral("ShowTable")), nullptr);
+    EXPECT_NE(Give(Command::ShowDBTable, scrollDown), nullptr);
 }
 
 TEST_F(DialogsTest, CalculatorAndLinksAreStartedOutside)
