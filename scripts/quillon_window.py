@@ -12,6 +12,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 TITLE = "ERP / Attenuation Calculator"
+SPLASH = "Quillon"
 
 # Long enough for a sanitized build on a busy machine; nothing waits longer than it has to.
 PATIENCE = 60
@@ -61,9 +62,18 @@ def elements_below(element):
 
 
 class QuillonWindow:
-    """One run of the program: `with QuillonWindow(program) as window`."""
+    """One run of the program, ready to be worked: `with QuillonWindow(program) as window`."""
 
     def __init__(self, program):
+        self._start(program)
+        try:
+            self._end_splash()
+            self._enter()
+        except BaseException:
+            self.close()
+            raise
+
+    def _start(self, program):
         settings = {
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             # Figures are read as they stand, so the decimal separator has to be known.
@@ -71,17 +81,21 @@ class QuillonWindow:
         }
         Atspi.init()
         self._process = subprocess.Popen([program], env={**os.environ, **settings})
-        try:
-            wait_for("the program on the accessibility bus", self._application)
-            frame = wait_for(f'the window "{TITLE}"', lambda: self._window(TITLE))
-            self.id = wait_for("the window on the display", self._window_id)
-            self._xdotool("windowactivate", "--sync", self.id)
-            wait_for("the window to become active", lambda: has_state(frame, Atspi.StateType.ACTIVE))
-            # The name of a list box is its text once something is chosen, so everything keeps the name it starts with.
-            self._elements = [(element, element.get_name()) for element in elements_below(frame)]
-        except BaseException:
-            self.close()
-            raise
+
+    def _end_splash(self):
+        """Presses a key in the splash window, unless its time is over anyway."""
+        wait_for("the program on the accessibility bus", self._application)
+        wait_for("the splash window", lambda: self._active(SPLASH) or self.id_of(TITLE))
+        if not self.id_of(TITLE):
+            self.press("Escape")
+
+    def _enter(self):
+        self.id = wait_for("the window on the display", lambda: self.id_of(TITLE))
+        frame = wait_for(f'the window "{TITLE}"', lambda: self._window(TITLE))
+        self._xdotool("windowactivate", "--sync", self.id)
+        wait_for("the window to become active", lambda: has_state(frame, Atspi.StateType.ACTIVE))
+        # The name of a list box is its text once something is chosen, so everything keeps the name it starts with.
+        self._elements = [(element, element.get_name()) for element in elements_below(frame)]
 
     def __enter__(self):
         return self
@@ -185,6 +199,7 @@ class QuillonWindow:
         window = self._window(title)
         return window is not None and has_state(window, Atspi.StateType.ACTIVE)
 
-    def _window_id(self):
-        search = ["xdotool", "search", "--onlyvisible", "--all", "--pid", str(self._process.pid), "--name", TITLE]
+    def id_of(self, title):
+        """The window with a title that is on the display, nothing where there is none."""
+        search = ["xdotool", "search", "--onlyvisible", "--all", "--pid", str(self._process.pid), "--name", f"^{title}$"]
         return next(iter(subprocess.run(search, check=False, capture_output=True, text=True).stdout.split()), None)

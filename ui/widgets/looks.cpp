@@ -6,6 +6,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quillon::ui {
 
@@ -15,6 +16,25 @@ namespace {
 QColor Active(const QPalette& palette, QPalette::ColorRole role)
 {
     return palette.color(QPalette::Active, role);
+}
+
+/// Contrast that text has to have (WCAG 2.1, 1.4.3).
+constexpr double kReadable = 4.5;
+constexpr int kSteps = 10; ///< from one colour to another
+
+/// Relative luminance as WCAG 2.1 defines it, 0 to 1.
+double Luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
 } // namespace
@@ -33,6 +53,12 @@ QFont ScaledFont(double factor, QFont::Weight weight)
         font.setPixelSize(std::max(1, qRound(font.pixelSize() * factor)));
     }
     font.setWeight(weight);
+    return font;
+}
+
+QFont SansSerif(QFont font)
+{
+    font.setFamilies(QStringList{QStringLiteral("MS Sans Serif")} + QApplication::font().families());
     return font;
 }
 
@@ -82,6 +108,16 @@ QColor QuietColor(const QPalette& palette)
 QColor BetterColor(const QPalette& palette)
 {
     return Mixed(Active(palette, QPalette::Base), Active(palette, QPalette::Highlight), 0.13);
+}
+
+QColor LinkColor(const QPalette& palette)
+{
+    const QColor link = Active(palette, QPalette::Link);
+    QColor color = link;
+    for (int step = 1; step <= kSteps && Contrast(color, Active(palette, QPalette::Window)) < kReadable; ++step) {
+        color = Mixed(link, Active(palette, QPalette::WindowText), 1.0 * step / kSteps);
+    }
+    return color;
 }
 
 QString PlainToolTip(const QString& text)

@@ -12,6 +12,9 @@ namespace quillon::ui {
 /// The application font changed in size by a factor and in weight; no size is set absolutely anywhere.
 [[nodiscard]] QFont ScaledFont(double factor, QFont::Weight weight = QFont::Normal);
 
+/// The font asking for "MS Sans Serif" by name; where there is none, the application font's family.
+[[nodiscard]] QFont SansSerif(QFont font);
+
 /// A colour moved towards another one by a share of 0 to 1.
 [[nodiscard]] QColor Mixed(const QColor& color, const QColor& other, double share);
 
@@ -24,6 +27,8 @@ namespace quillon::ui {
 [[nodiscard]] QColor FilledMarkerColor(const QPalette& palette);
 [[nodiscard]] QColor QuietColor(const QPalette& palette);
 [[nodiscard]] QColor BetterColor(const QPalette& palette);
+/// The palette's own colour of links, moved towards the text's where it would be hard to read on the window.
+[[nodiscard]] QColor LinkColor(const QPalette& palette);
 
 /// A text that comes from a file or a person, safe for places that would take it as rich text (tool tips).
 [[nodiscard]] QString PlainToolTip(const QString& text);

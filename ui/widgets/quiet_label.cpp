@@ -33,16 +33,17 @@ void QuietLabel::ApplyFont()
     }
 }
 
-void QuietLabel::SetElides(bool elides)
+void QuietLabel::SetElides(bool elides, Qt::TextElideMode where)
 {
     m_elides = elides;
+    m_where = where;
     updateGeometry();
     update();
 }
 
 QString QuietLabel::ShownText() const
 {
-    return m_elides ? fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()) : text();
+    return m_elides ? fontMetrics().elidedText(text(), m_where, contentsRect().width()) : text();
 }
 
 int QuietLabel::LineHeight() const

@@ -15,8 +15,8 @@ public:
 
     /// @param factor  size against the application font
     explicit QuietLabel(Tone tone, double factor = 1.0, QWidget* parent = nullptr);
-    /// Elide at the right when the layout gives less room than the text takes (else the label insists on its width).
-    void SetElides(bool elides);
+    /// Elide when the layout gives less room than the text takes (else the label insists on its width).
+    void SetElides(bool elides, Qt::TextElideMode where = Qt::ElideRight);
 
     /// What is painted: the text, elided when it has to be.
     [[nodiscard]] QString ShownText() const;
@@ -34,6 +34,7 @@ private:
     Tone m_tone;
     double m_factor;
     bool m_elides = false;
+    Qt::TextElideMode m_where = Qt::ElideRight;
 };
 
 } // namespace quillon::ui

@@ -4,7 +4,6 @@
 #include "ui/widgets/digit_cells.h"
 #include "ui/widgets/looks.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -26,10 +25,8 @@ constexpr int kFractionDigits = 4;
 
 QFont ValueFont(ValueLabel::Size size, bool bold)
 {
-    QFont font =
-        ScaledFont(size == ValueLabel::Size::Total ? kTotalFactor : kRowFactor, bold ? QFont::Bold : QFont::Normal);
-    font.setFamilies(QStringList{QStringLiteral("MS Sans Serif")} + QApplication::font().families());
-    return font;
+    const double factor = size == ValueLabel::Size::Total ? kTotalFactor : kRowFactor;
+    return SansSerif(ScaledFont(factor, bold ? QFont::Bold : QFont::Normal));
 }
 
 /// Widths that all labels of a column agree on, whatever their own size and value.

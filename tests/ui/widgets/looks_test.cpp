@@ -60,6 +60,14 @@ TEST(Fonts, FontsScaleInPixelsWhereTheDesktopSpeaksPixels)
     EXPECT_EQ(ScaledFont(1.4).pixelSize(), 28);
 }
 
+TEST(Fonts, SansSerifIsAskedForByNameBeforeTheDesktopsFont)
+{
+    const QFont font = SansSerif(ScaledFont(1.4, QFont::Bold));
+    EXPECT_EQ(font.families(), QStringList(QStringLiteral("MS Sans Serif")) + QApplication::font().families());
+    EXPECT_EQ(font.weight(), QFont::Bold);
+    EXPECT_DOUBLE_EQ(font.pointSizeF(), ScaledFont(1.4).pointSizeF());
+}
+
 TEST(Colors, DarkIsAWindowDarkerThanItsText)
 {
     EXPECT_FALSE(IsDark(Light()));
@@ -85,6 +93,24 @@ TEST(Colors, DarkPalette)
     EXPECT_EQ(EmptyMarkerColor(Dark()), QColor(142, 142, 142)); // 50 + 0.46 * 200
     EXPECT_EQ(QuietColor(Dark()), QColor(190, 190, 190));       // 250 - 0.30 * 200
     EXPECT_EQ(BetterColor(Dark()), QColor(33, 46, 20));         // 20 + 0.13 * 100, 20 + 0.13 * 200, 0
+}
+
+TEST(Colors, ALinkThatIsReadableHasThePalettesColour)
+{
+    QPalette palette = Light();
+    palette.setColor(QPalette::Link, QColor(0, 0, 200));
+    EXPECT_EQ(LinkColor(palette), QColor(0, 0, 200));
+}
+
+TEST(Colors, ALinkThatIsHardToReadMovesTowardsTheText)
+{
+    QPalette palette = Dark();
+    palette.setColor(QPalette::Link, QColor(0, 0, 200));
+    // The luminance of 50 is 0.0319, so 4.5 to 1 takes 0.3185; five tenths of the way give 0.2446, six tenths 0.3401.
+    EXPECT_EQ(LinkColor(palette), QColor(150, 150, 230));
+    palette.setColor(QPalette::Link, QColor(50, 50, 50));
+    palette.setColor(QPalette::WindowText, QColor(60, 60, 60));
+    EXPECT_EQ(LinkColor(palette), QColor(60, 60, 60)) << "no more than the text has";
 }
 
 TEST(Colors, StayWhenTheWindowLosesTheFocus)

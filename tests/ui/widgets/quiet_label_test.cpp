@@ -43,6 +43,18 @@ TEST(QuietLabel, ElidesAtTheRightAndKeepsItsText)
     EXPECT_LT(label.minimumSizeHint().width(), label.sizeHint().width());
 }
 
+TEST(QuietLabel, ElidesInTheMiddleWhereBothEndsTell)
+{
+    QuietLabel label(QuietLabel::Tone::Normal);
+    label.SetElides(true, Qt::ElideMiddle);
+    label.setText(QStringLiteral("/home/somebody/quillon/Quillon"));
+    label.resize(label.sizeHint().width() / 2, 20);
+
+    EXPECT_TRUE(label.ShownText().startsWith(QStringLiteral("/ho")));
+    EXPECT_TRUE(label.ShownText().endsWith(QStringLiteral("lon")));
+    EXPECT_TRUE(label.ShownText().contains(QChar(0x2026)));
+}
+
 TEST(QuietLabel, AShortTextIsNeverElided)
 {
     QuietLabel label(QuietLabel::Tone::Quiet);

@@ -1,0 +1,32 @@
+#include "ui/startup/notice_label.h"
+
+#include "ui/widgets/looks.h"
+
+#include <QFontMetrics>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace quillon::ui {
+
+NoticeLabel::NoticeLabel(Tone tone, const Column& column, QWidget* parent)
+    : QuietLabel(tone, 1.0, parent)
+    , m_column(column)
+{
+    setWordWrap(true);
+}
+
+QSize NoticeLabel::sizeHint() const
+{
+    const int wanted = m_column.characters * fontMetrics().averageCharWidth();
+    const int rest = screen()->availableSize().width() - m_column.beside * BaseUnit();
+    const int width = std::max(std::min(wanted, rest), BaseUnit());
+    return {width, heightForWidth(width)};
+}
+
+QSize NoticeLabel::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+} // namespace quillon::ui
