@@ -20,6 +20,7 @@ MAY_SEE = {
     "ui/report": ["ui/widgets", "ui/platform", "store", "engine"],
     "ui/editor": ["ui/widgets", "ui/platform", "store", "engine"],
     "ui/table": ["ui/widgets", "ui/platform", "store", "engine"],
+    "ui/help": ["ui/widgets", "ui/platform", "store", "engine"],
     "ui/startup": ["ui/widgets", "ui/platform", "store", "engine"],
     "app": ["ui", "store", "engine"],
     "tests": ["app", "ui", "store", "engine"],

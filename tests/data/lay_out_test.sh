@@ -24,6 +24,8 @@ mkdir -p "$shipped/Antennas" "$shipped/Coax"
 for maker in STAYS CHANGED DELETED DROPPED "KEPT DROPPED" [ODD]; do
     echo "first $maker" >"$shipped/Antennas/$maker.DAT"
 done
+mkdir "$shipped/Help"
+echo "first help" >"$shipped/Help/Quillon.hlp"
 echo sources >"$shipped/SOURCES.md"
 echo front >"$shipped/README.md"
 : >"$shipped/QuillonSystems.dat"
@@ -31,6 +33,7 @@ echo front >"$shipped/README.md"
 lay_out
 expect "a shipped file is laid out" "first STAYS" "$(content Antennas/STAYS.DAT)"
 expect "a name with brackets is laid out" "first [ODD]" "$(content 'Antennas/[ODD].DAT')"
+expect "the help lies beside the program" "first help" "$(content Help/Quillon.hlp)"
 expect "the sources lie beside the catalogues" "sources" "$(content SOURCES.md)"
 expect "the saved systems start empty" "" "$(content QuillonSystems.dat)"
 expect "documents of the project stay out" "(none)" "$(content README.md)"
@@ -52,11 +55,13 @@ expect "saved systems stand" "saved" "$(content QuillonSystems.dat)"
 for maker in STAYS CHANGED DELETED LATER NEW; do
     echo "second $maker" >"$shipped/Antennas/$maker.DAT"
 done
+echo "second help" >"$shipped/Help/Quillon.hlp"
 echo not-empty >"$shipped/QuillonSystems.dat"
 rm "$shipped/Antennas/DROPPED.DAT" "$shipped/Antennas/KEPT DROPPED.DAT"
 
 said=$(lay_out)
 expect "an untouched file follows the shipped one" "second STAYS" "$(content Antennas/STAYS.DAT)"
+expect "the help follows the program" "second help" "$(content Help/Quillon.hlp)"
 expect "a changed file stands when the shipped one changes" "mine" "$(content Antennas/CHANGED.DAT)"
 expect "that is told" "1" "$(grep -c 'Kept .*/CHANGED.DAT' <<<"$said")"
 expect "a deleted file stays deleted when the shipped one changes" "(none)" "$(content Antennas/DELETED.DAT)"
@@ -67,6 +72,13 @@ expect "an untouched file that is no longer shipped goes" "(none)" "$(content An
 expect "a changed file that is no longer shipped stands" "mine" "$(content 'Antennas/KEPT DROPPED.DAT')"
 expect "saved systems stand whatever is shipped" "saved" "$(content QuillonSystems.dat)"
 expect "it is told once" "" "$(lay_out)"
+
+# What a person made of the help is theirs like any other file.
+echo "my help" >"$program/Help/Quillon.hlp"
+echo "third help" >"$shipped/Help/Quillon.hlp"
+said=$(lay_out)
+expect "a changed help stands" "my help" "$(content Help/Quillon.hlp)"
+expect "that is told" "1" "$(grep -c 'Kept .*/Quillon.hlp' <<<"$said")"
 
 # Without its record every file may be somebody's.
 rm "$program/.laid-out"
