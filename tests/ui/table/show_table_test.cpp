@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
@@ -191,6 +192,7 @@ TEST(ShowTable, CannotBeTypedInto)
     test::Click(window, Qt::Key_F2);
     test::Type(window, QStringLiteral("7"));
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, grid.visualItemRect(grid.item(3, 1)).center());
+    EXPECT_EQ(grid.findChild<QLineEdit*>(), nullptr) << "an editor";
     EXPECT_EQ(grid.item(3, 1)->text(), QStringLiteral("1.072"));
 }
 
