@@ -1,10 +1,12 @@
 #include "app/dialogs.h"
 
 #include "app/closing.h"
+#include "ui/help/help_topics.h"
 #include "ui/platform/addresses.h"
 #include "ui/platform/question_box.h"
 #include "ui/table/show_table.h"
 
+#include <QCoreApplication>
 #include <QUrl>
 
 namespace quillon {
@@ -14,6 +16,8 @@ Dialogs::Dialogs(const DialogParts& parts)
     , m_readWrite(parts.folder, parts.store, parts.notifier)
 {
     connect(&parts.window, &ui::Quillon::CommandGiven, this, &Dialogs::Show);
+    connect(&m_helpKey, &ui::HelpKey::Asked, this, &Dialogs::ShowHelp);
+    QCoreApplication::instance()->installEventFilter(&m_helpKey);
 }
 
 void Dialogs::Show(ui::Command command)
@@ -32,9 +36,11 @@ void Dialogs::Show(ui::Command command)
     case ui::Command::ShowDBTable:
         return ui::ShowTable(&m_parts.window).Open();
     case ui::Command::EditAntennas:
-    case ui::Command::About:
-    case ui::Command::HelpContents:
         return;
+    case ui::Command::About:
+        return About().Open();
+    case ui::Command::HelpContents:
+        return ShowHelp(ui::kHelpOverview);
     case ui::Command::Calculator:
         return m_parts.shell.StartCalculator();
     case ui::Command::QuillonOnline:
@@ -62,6 +68,12 @@ void Dialogs::Close()
     case ui::Answer::Cancel:
         return;
     }
+}
+
+void Dialogs::ShowHelp(int context)
+{
+    // A document that is missing is nothing to stop anybody by.
+    static_cast<void>(Help().ShowTopic(context));
 }
 
 ui::SaveSystem& Dialogs::SaveSystem()
@@ -97,6 +109,23 @@ ui::PrintOut& Dialogs::PrintOut()
         m_printOut = new ui::PrintOut(Report(), m_parts.printers, m_parts.notifier, &m_parts.window);
     }
     return *m_printOut;
+}
+
+ui::About& Dialogs::About()
+{
+    if (m_about == nullptr) {
+        m_about =
+            new ui::About(ui::ProgramInfo::OfThisProgram(), &ui::AskSystemVersion, m_parts.shell, &m_parts.window);
+    }
+    return *m_about;
+}
+
+ui::HelpWindow& Dialogs::Help()
+{
+    if (m_help == nullptr) {
+        m_help = new ui::HelpWindow(m_parts.folder.HelpFile(), &m_parts.window);
+    }
+    return *m_help;
 }
 
 } // namespace quillon

@@ -2,11 +2,14 @@
 
 #include "store/profile_store.h"
 #include "store/read_write.h"
+#include "ui/help/help_key.h"
+#include "ui/help/help_window.h"
 #include "ui/main/quillon_window.h"
 #include "ui/platform/printers.h"
 #include "ui/platform/shell.h"
 #include "ui/report/print_out.h"
 #include "ui/report/print_system_report.h"
+#include "ui/startup/about.h"
 #include "ui/systems/load_system.h"
 #include "ui/systems/save_system.h"
 
@@ -41,6 +44,9 @@ private:
     [[nodiscard]] ui::LoadSystem& LoadSystem();
     [[nodiscard]] ui::PrintSystemReport& Report();
     [[nodiscard]] ui::PrintOut& PrintOut();
+    [[nodiscard]] ui::About& About();
+    [[nodiscard]] ui::HelpWindow& Help();
+    void ShowHelp(int context);
     /// Unloads the main window, unless there is something to save and the user would rather.
     void Close();
 
@@ -50,6 +56,9 @@ private:
     ui::SaveSystem* m_saveSystem = nullptr;
     ui::LoadSystem* m_loadSystem = nullptr;
     ui::PrintOut* m_printOut = nullptr;
+    ui::About* m_about = nullptr;
+    ui::HelpWindow* m_help = nullptr;
+    ui::HelpKey m_helpKey;
 };
 
 } // namespace quillon

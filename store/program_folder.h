@@ -24,6 +24,8 @@ public:
     /// Index of the antenna catalogue files.
     [[nodiscard]] std::filesystem::path AntennaIndex() const { return AntennaFolder() / "ANTENNAS.ZEP"; }
 
+    [[nodiscard]] std::filesystem::path HelpFile() const { return Path() / "Help" / "Quillon.hlp"; }
+
     /// Catalogue file of a maker. @param maker  a name without FileNameFault
     [[nodiscard]] std::filesystem::path AntennaFile(std::string_view maker) const;
     [[nodiscard]] std::filesystem::path CoaxFile(std::string_view maker) const;

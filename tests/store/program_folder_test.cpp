@@ -21,6 +21,7 @@ TEST(ProgramFolder, HoldsTheCatalogues)
     EXPECT_EQ(kFolder.AntennaFile("HY-GAIN"), "/opt/quillon/Antennas/HY-GAIN.DAT");
     EXPECT_EQ(kFolder.CoaxFile("DAVIS RF"), "/opt/quillon/Coax/DAVIS RF.DAT");
     EXPECT_EQ(kFolder.AntennaIndex(), "/opt/quillon/Antennas/ANTENNAS.ZEP");
+    EXPECT_EQ(kFolder.HelpFile(), "/opt/quillon/Help/Quillon.hlp");
 }
 
 TEST(ProgramFolder, HoldsTheDataSetsByTheirExactNames)
