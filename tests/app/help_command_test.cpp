@@ -28,7 +28,7 @@ protected:
     std::string TopLine()
     {
         const auto& page = test::Find<QTextBrowser>(*HelpWindow(), QStringLiteral("txtHelp"));
-        return page.cursorForPosition({page.width() / 2, 2}).block().text().toStdString();
+        return page.cursorForPosition({page.width() / 2, page.fontMetrics().height()}).block().text().toStdString();
     }
 };
 
