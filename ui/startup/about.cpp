@@ -30,7 +30,7 @@ constexpr int kGap = 4;
 constexpr int kWindowFrame = 4;
 
 /// Room for the lines as they are on most systems.
-constexpr NoticeLabel::Column kColumn{74, kMargin + kPictureSide + kGap + kMargin + kWindowFrame};
+constexpr NoticeLabel::Column kColumn{78, kMargin + kPictureSide + kGap + kMargin + kWindowFrame};
 constexpr double kVersionFactor = 1.15;
 
 void MakeEquallyWide(const QList<QPushButton*>& buttons)

@@ -2,8 +2,10 @@
 
 #include "ui/widgets/looks.h"
 
-#include <QFontMetrics>
+#include <QApplication>
+#include <QFontMetricsF>
 #include <QScreen>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -18,7 +20,7 @@ NoticeLabel::NoticeLabel(Tone tone, const Column& column, QWidget* parent)
 
 QSize NoticeLabel::sizeHint() const
 {
-    const int wanted = m_column.characters * fontMetrics().averageCharWidth();
+    const int wanted = qCeil(m_column.characters * QFontMetricsF(QApplication::font()).averageCharWidth());
     const int rest = screen()->availableSize().width() - m_column.beside * BaseUnit();
     const int width = std::max(std::min(wanted, rest), BaseUnit());
     return {width, heightForWidth(width)};

@@ -13,7 +13,7 @@ public:
     /// Width of the column.
     struct Column
     {
-        int characters; ///< average ones that it has room for
+        int characters; ///< average ones of the application font that it has room for
         int beside;     ///< base units that the window needs beside it: on a narrow screen the column gets the rest
     };
 

@@ -5,13 +5,14 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace quillon::ui {
 
 namespace {
 
 // Lengths in outer radii of the grid.
-constexpr double kRings[] = {1.0, 0.65, 0.32};
+constexpr std::array kRings{1.0, 0.65, 0.32};
 constexpr QRectF kWeakLobe{-0.66, -0.31, 0.66, 0.62};
 constexpr QRectF kStrongLobe{0, -0.37, 0.98, 0.74};
 constexpr double kLobeLine = 0.028;

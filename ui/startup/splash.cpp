@@ -33,7 +33,7 @@ constexpr int kPictureSide = 28;
 constexpr int kMargin = 5;
 constexpr int kGap = 6;
 
-constexpr NoticeLabel::Column kColumn{62, kMargin + kPictureSide + kGap + kMargin};
+constexpr NoticeLabel::Column kColumn{66, kMargin + kPictureSide + kGap + kMargin};
 constexpr double kTitleFactor = 2.8;
 
 /// Not a splash window by type, which many window managers give no keyboard.
@@ -127,17 +127,14 @@ void Splash::EndWait()
 {
     if (m_isMainWindowShown) {
         hide();
-        return;
-    }
-    ShowMainWindow();
-    if (isVisible()) {
+    } else {
+        ShowMainWindow();
         m_timer.start(m_waits.together);
     }
 }
 
 void Splash::Unload()
 {
-    m_timer.stop();
     hide();
     ShowMainWindow();
 }
