@@ -4,7 +4,7 @@
 #include "engine/number_text.h"
 #include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
-#include "ui/main/typed_number.h"
+#include "ui/widgets/typed_number.h"
 #include "ui/widgets/catalogue_text.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/list_group.h"

@@ -1,6 +1,6 @@
 #include "ui/main/input_frame.h"
 
-#include "ui/main/typed_number.h"
+#include "ui/widgets/typed_number.h"
 
 #include <QSignalBlocker>
 

@@ -29,6 +29,11 @@ bool AskYesNo(QWidget* owner, const QString& text, const QString& title)
     return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
+bool AskOkCancel(QWidget* owner, const QString& text, const QString& title)
+{
+    return Ask(owner, text, title, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
 Answer AskYesNoCancel(QWidget* owner, const QString& text, const QString& title)
 {
     switch (Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel)) {

@@ -13,6 +13,9 @@ namespace quillon::ui {
 /// @return whether the answer was Yes.
 [[nodiscard]] bool AskYesNo(QWidget* owner, const QString& text, const QString& title);
 
+/// As AskYesNo, with OK and Cancel; Cancel is the default. @return whether the answer was OK.
+[[nodiscard]] bool AskOkCancel(QWidget* owner, const QString& text, const QString& title);
+
 enum class Answer : std::uint8_t { Yes, No, Cancel };
 
 /// Asks in a modal box with Yes, No and Cancel, as plain text. Cancel is the default, and what closing the box means.

@@ -1,6 +1,5 @@
 #include "ui/report/print_out.h"
 
-#include "ui/widgets/card.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
@@ -34,20 +33,6 @@ void BoundWidth(QComboBox& list)
 {
     list.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list.setMinimumContentsLength(kListCharacters);
-}
-
-void AddInCard(QVBoxLayout& column, QWidget* frame)
-{
-    auto* cell = new QGridLayout;
-    auto* card = new Card(Card::Kind::Card, frame->parentWidget());
-    card->lower();
-    cell->addWidget(card, 0, 0);
-    auto* inset = new QVBoxLayout;
-    const int margin = 5 * BaseUnit() / 2;
-    inset->setContentsMargins(margin, 2 * BaseUnit(), margin, margin);
-    inset->addWidget(frame);
-    cell->addLayout(inset, 0, 0);
-    column.addLayout(cell, 1);
 }
 
 } // namespace
@@ -88,7 +73,7 @@ void PrintOut::LayOut()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(3 * unit, 3 * unit, 3 * unit, 3 * unit);
     column->setSpacing(2 * unit);
-    AddInCard(*column, frame);
+    column->addLayout(InCard(frame), 1);
     column->addLayout(ButtonRow({m_print, m_stop}, {m_cancel, m_finish}));
 
     const QList<QWidget*> order{m_printerList, m_fonts, m_notes, m_print, m_stop, m_cancel, m_finish};

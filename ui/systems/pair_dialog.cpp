@@ -1,7 +1,7 @@
 #include "ui/systems/pair_dialog.h"
 
 #include "ui/widgets/button_keys.h"
-#include "ui/widgets/card.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 
 #include <QFontMetrics>
@@ -14,22 +14,9 @@ namespace quillon::ui {
 
 namespace {
 
-enum Row { FieldRow, SystemsRow, ButtonsRow };
+enum Row { TopRow, SystemsRow, ButtonsRow };
 
 constexpr int kColumns = 2;
-
-void AddInCard(QGridLayout& grid, QWidget* frame, Row row, int column, int columns)
-{
-    auto* card = new Card(Card::Kind::Card, frame->parentWidget());
-    card->lower();
-    grid.addWidget(card, row, column, 1, columns);
-
-    auto* inset = new QVBoxLayout;
-    const int margin = 5 * BaseUnit() / 2;
-    inset->setContentsMargins(margin, 2 * BaseUnit(), margin, margin);
-    inset->addWidget(frame);
-    grid.addLayout(inset, row, column, 1, columns);
-}
 
 QHBoxLayout* ButtonsAtTheRight(const QList<QPushButton*>& buttons)
 {
@@ -62,9 +49,9 @@ void PairDialog::LayOut(TitledFrame* fieldFrame, QWidget* field, const QList<QPu
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(3 * unit, 3 * unit, 3 * unit, 3 * unit);
     grid->setSpacing(2 * unit);
-    AddInCard(*grid, fieldFrame, FieldRow, 0, kColumns);
-    AddInCard(*grid, m_frames[engine::SystemId::One], SystemsRow, 0, 1);
-    AddInCard(*grid, m_frames[engine::SystemId::Two], SystemsRow, 1, 1);
+    grid->addLayout(InCard(fieldFrame), TopRow, 0, 1, kColumns);
+    grid->addLayout(InCard(m_frames[engine::SystemId::One]), SystemsRow, 0);
+    grid->addLayout(InCard(m_frames[engine::SystemId::Two]), SystemsRow, 1);
     grid->addLayout(ButtonsAtTheRight(buttons), ButtonsRow, 0, 1, kColumns, Qt::AlignBottom);
     grid->setRowStretch(ButtonsRow, 1);
     grid->setColumnStretch(0, 1);

@@ -3,25 +3,11 @@
 #include "store/entry_name.h"
 #include "store/profile_lines.h"
 #include "store/saved_systems.h"
-
-#include <array>
+#include "ui/widgets/name_refusal.h"
 
 namespace quillon::ui {
 
 namespace {
-
-struct Refusal
-{
-    store::NameFault fault;
-    const char* text;
-};
-
-constexpr std::array kRefusals{
-    Refusal{store::NameFault::ControlCharacter, "The system name holds a control character."},
-    Refusal{store::NameFault::NotInCodePage, "The system name holds a character that the data files cannot hold."},
-    Refusal{store::NameFault::NotReadBack, "The system name stands in quotes, which would be lost in the data file."},
-    Refusal{store::NameFault::TooLong, "The system name is longer than 254 characters."},
-};
 
 constexpr const char* kListName =
     "\u201CSavedSystems\u201D names the list of saved systems. Please choose another name.";
@@ -39,12 +25,8 @@ QString SystemNameRefusal(const QString& name)
     }
     const store::NameFault fault = store::EntryNameFault(text);
     const bool isLeftToTheLimit = fault == store::NameFault::TooLong && name.size() > kLongestWritten;
-    for (const Refusal& refusal : kRefusals) {
-        if (refusal.fault == fault && !isLeftToTheLimit) {
-            return QString::fromUtf8(refusal.text);
-        }
-    }
-    return {};
+    return isLeftToTheLimit ? QString()
+                            : NameRefusal({QStringLiteral("system name"), name, store::kLongestEntry}, fault);
 }
 
 } // namespace quillon::ui

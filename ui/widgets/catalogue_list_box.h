@@ -55,6 +55,8 @@ signals:
     /// Once per choice: by mouse, by keyboard, by program (setCurrentIndex too), also when the same entry is chosen
     /// again.
     void Chosen();
+    /// Enter has made a choice; comes after Chosen.
+    void EnterTaken();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -125,6 +125,7 @@ void CatalogueListBox::TakeEnter()
         m_next->setFocus(Qt::TabFocusReason);
         m_next->showPopup();
     }
+    emit EnterTaken();
 }
 
 void CatalogueListBox::wheelEvent(QWheelEvent* event)

@@ -1,9 +1,11 @@
 #include "ui/widgets/layout_parts.h"
 
+#include "ui/widgets/card.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
 
 #include <QFontMetrics>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -28,6 +30,21 @@ QLabel* FieldLabel(const QString& text, QWidget* buddy, QWidget* parent)
     label->setText(text);
     label->setBuddy(buddy);
     return label;
+}
+
+QGridLayout* InCard(QWidget* frame)
+{
+    auto* card = new Card(Card::Kind::Card, frame->parentWidget());
+    card->lower();
+    auto* cell = new QGridLayout;
+    cell->addWidget(card, 0, 0);
+
+    auto* inset = new QVBoxLayout;
+    const int margin = 5 * BaseUnit() / 2;
+    inset->setContentsMargins(margin, 2 * BaseUnit(), margin, margin);
+    inset->addWidget(frame);
+    cell->addLayout(inset, 0, 0);
+    return cell;
 }
 
 QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right)

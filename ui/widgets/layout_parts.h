@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 
+class QGridLayout;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -15,6 +16,9 @@ namespace quillon::ui {
 
 /// Quiet label of an input, its buddy: the way to the input for screen readers.
 [[nodiscard]] QLabel* FieldLabel(const QString& text, QWidget* buddy, QWidget* parent);
+
+/// A frame with a card behind it.
+[[nodiscard]] QGridLayout* InCard(QWidget* frame);
 
 /// Buttons at the bottom of a dialog, all as wide as the widest caption asks for, none pressed by Enter elsewhere.
 [[nodiscard]] QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right);

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace quillon::ui {
 
@@ -53,7 +54,8 @@ QString TitledFrame::PlainTitle() const
 
 int TitledFrame::TitleWidth(int step) const
 {
-    return QFontMetrics(FontOf(step)).horizontalAdvance(PlainTitle());
+    // Rounded up: a title that is a fraction of a pixel wider than its room is elided.
+    return static_cast<int>(std::ceil(QFontMetricsF(FontOf(step)).horizontalAdvance(PlainTitle())));
 }
 
 void TitledFrame::SetStep(int step)

@@ -82,5 +82,31 @@ TEST(QuestionBox, OfThreeAnswersCancelIsTheDefaultAndWhatEscAndClosingMean)
     EXPECT_EQ(AskThreeAnd([](QMessageBox& box) { box.close(); }), Answer::Cancel);
 }
 
+bool AskOkCancelAnd(const std::function<void(QMessageBox&)>& answer)
+{
+    QTimer::singleShot(0, [answer] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            answer(*box);
+        }
+    });
+    return AskOkCancel(nullptr, QStringLiteral("Replace <b>A & B</b>?"), QStringLiteral("Exists"));
+}
+
+TEST(QuestionBox, TellsOkFromCancelWhichIsTheDefault)
+{
+    EXPECT_TRUE(AskOkCancelAnd([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QStringLiteral("Replace <b>A & B</b>?"));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+        box.button(QMessageBox::Ok)->click();
+    }));
+    EXPECT_FALSE(AskOkCancelAnd([](QMessageBox& box) {
+        EXPECT_TRUE(box.button(QMessageBox::Cancel) == box.defaultButton());
+        QTest::keyClick(&box, Qt::Key_Return);
+    }));
+    EXPECT_FALSE(AskOkCancelAnd([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
+    EXPECT_FALSE(AskOkCancelAnd([](QMessageBox& box) { box.close(); }));
+}
+
 } // namespace
 } // namespace quillon::ui

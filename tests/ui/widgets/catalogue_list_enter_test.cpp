@@ -36,6 +36,19 @@ TEST_P(ListEnter, SelectsTheEntryThatEqualsTheTextAndGoesOn)
 INSTANTIATE_TEST_SUITE_P(Keys, ListEnter,
                          testing::Values(EnterRow{"Return", Qt::Key_Return}, EnterRow{"keypad Enter", Qt::Key_Enter}));
 
+TEST_F(ListWindow, EnterIsToldBehindTheChoiceItMade)
+{
+    QStringList order;
+    QObject::connect(m_list, &CatalogueListBox::Chosen, [&order] { order.append(QStringLiteral("Chosen")); });
+    QObject::connect(m_list, &CatalogueListBox::EnterTaken, [&order] { order.append(QStringLiteral("EnterTaken")); });
+    m_list->setEditText(QStringLiteral("ZZZ"));
+    Click(Qt::Key_Return);
+    EXPECT_TRUE(order.isEmpty());
+    m_list->setEditText(QStringLiteral("HY-GAIN"));
+    Click(Qt::Key_Return);
+    EXPECT_EQ(order, (QStringList{QStringLiteral("Chosen"), QStringLiteral("EnterTaken")}));
+}
+
 TEST_F(ListWindow, EnterDoesNothingBeforeItIsReleased)
 {
     m_list->setEditText(QStringLiteral("HY-GAIN"));

@@ -1,4 +1,4 @@
-#include "ui/main/typed_number.h"
+#include "ui/widgets/typed_number.h"
 
 #include "tests/support/row_name.h"
 
@@ -39,6 +39,14 @@ INSTANTIATE_TEST_SUITE_P(
                       NumberRow{"inner blank", "1 000", std::nullopt},
                       NumberRow{"one letter behind", "5W", std::nullopt}),
     support::RowName());
+
+TEST(TypedDouble, KeepsWhat32BitsWouldLose)
+{
+    EXPECT_EQ(ReadDouble(QStringLiteral("5.05"), QLocale::c()).value, 5.05);
+    EXPECT_EQ(ReadDouble(QStringLiteral("3.5e38"), QLocale::c()).value, 3.5e38);
+    EXPECT_EQ(ReadDouble(QStringLiteral("1e309"), QLocale::c()).problem, QStringLiteral("“1e309” is too large"));
+    EXPECT_EQ(ReadDouble(QStringLiteral("nan"), QLocale::c()).problem, QStringLiteral("“nan” is not a number"));
+}
 
 /// Texts that the window writes itself: the engine's digits with a locale's separator.
 TEST(EveryLocale, ReadsBackWhatTheWindowWrites)

@@ -16,7 +16,10 @@ struct Typed
     QString problem;
 };
 
-/// Reads a typed number: the locale's decimal separator or a point, no grouping. Finite numbers of 32 bits only.
+/// Reads a typed number: the locale's decimal separator or a point, no grouping. Finite numbers only.
+[[nodiscard]] Typed<double> ReadDouble(const QString& text, const QLocale& locale);
+
+/// As ReadDouble, for numbers of 32 bits.
 [[nodiscard]] Typed<float> ReadNumber(const QString& text, const QLocale& locale);
 
 /// Reads a typed whole number: as ReadNumber, rounded with halves to even, within 16 bits.

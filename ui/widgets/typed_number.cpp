@@ -1,4 +1,4 @@
-#include "ui/main/typed_number.h"
+#include "ui/widgets/typed_number.h"
 
 #include "engine/arithmetic_error.h"
 #include "engine/number_text.h"
@@ -50,26 +50,38 @@ QString TooLarge(const QString& text)
     return Words(QT_TRANSLATE_NOOP("TypedNumber", "“%1” is too large"), text);
 }
 
-Typed<float> ReadNumber(const QString& text, const QLocale& locale)
+Typed<double> ReadDouble(const QString& text, const QLocale& locale)
 {
     const std::optional<double> value = ParseTyped(text, locale);
     if (!value) {
         return {std::nullopt, Words(QT_TRANSLATE_NOOP("TypedNumber", "“%1” is not a number"), text)};
     }
-    if (std::abs(*value) > static_cast<double>(std::numeric_limits<float>::max())) {
+    if (std::isinf(*value)) {
         return {std::nullopt, TooLarge(text)};
     }
-    return {static_cast<float>(*value), {}};
+    return {value, {}};
+}
+
+Typed<float> ReadNumber(const QString& text, const QLocale& locale)
+{
+    const Typed<double> number = ReadDouble(text, locale);
+    if (!number.value) {
+        return {std::nullopt, number.problem};
+    }
+    if (std::abs(*number.value) > static_cast<double>(std::numeric_limits<float>::max())) {
+        return {std::nullopt, TooLarge(text)};
+    }
+    return {static_cast<float>(*number.value), {}};
 }
 
 Typed<std::int16_t> ReadWholeNumber(const QString& text, const QLocale& locale)
 {
-    const std::optional<double> value = ParseTyped(text, locale);
-    if (!value) {
-        return {std::nullopt, ReadNumber(text, locale).problem};
+    const Typed<double> number = ReadDouble(text, locale);
+    if (!number.value) {
+        return {std::nullopt, number.problem};
     }
     try {
-        return {engine::ToInteger(*value), {}};
+        return {engine::ToInteger(*number.value), {}};
     } catch (const engine::ArithmeticError&) {
         return {std::nullopt, TooLarge(text)};
     }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "store/name_fault.h"
+
+#include <QString>
+
+#include <cstddef>
+
+namespace quillon::ui {
+
+/// A name that a person typed: what it is for, and how many characters there is room for.
+struct TypedName
+{
+    QString kind; ///< "system name", as it stands in a sentence
+    QString text;
+    std::size_t longest;
+};
+
+/// What is told of a name that cannot be taken, a whole sentence; empty for one without fault.
+[[nodiscard]] QString NameRefusal(const TypedName& name, store::NameFault fault);
+
+} // namespace quillon::ui
