@@ -1,6 +1,7 @@
 #include "tests/ui/help/shipped_help.h"
 #include "ui/help/help_document.h"
 #include "ui/help/help_topics.h"
+#include "ui/main/commands.h"
 
 #include <QSet>
 
@@ -117,7 +118,8 @@ const char* const kCaptions[] = {
     "Save System", "Load System", "Calculator", "Close", "Edit Antennas", "Show Table", "Print Report",
     "Program, Show db Table", "Program, Load System", "Program, Save System", "Program, Print System",
     "Program, Calculator", "Program, Exit", "Links, Quillon Online", "Links, Tarvel Software", "Help, About",
-    "Help, Help Overview", "Ctrl+S", "Ctrl+O", "Ctrl+P", "Ctrl+Q", "F1",
+    "Help, Help Overview", "Ctrl+S", "Ctrl+O", "Ctrl+P", "Ctrl+Q", "F1", "Ctrl+R", "Ctrl+E", "Ctrl+T", "Ctrl+K",
+    "Ctrl+L", "Ctrl+Shift+L", "Ctrl+I", "Ctrl+H", "Send E-Mail",
     "A system has been configured. Do you want to save it?",
     // Saving and loading.
     "Save Current Antenna System", "Enter a Name for the Antenna Systems", "Antenna System One", "Antenna System Two",
@@ -148,6 +150,34 @@ TEST_F(ShippedHelpTest, NamesEveryCaption)
     const QString text = test::ReadText(html);
     for (const char* caption : kCaptions) {
         EXPECT_TRUE(text.contains(QString::fromLatin1(caption))) << caption;
+    }
+}
+
+TEST_F(ShippedHelpTest, NamesEveryButtonAndItsKey)
+{
+    const QString text =
+        test::ReadText(test::ElementOfClass(html, QStringLiteral("table"), QStringLiteral("commands")));
+    for (const CommandButton& button : kCommandButtons) {
+        EXPECT_TRUE(text.contains(QString::fromLatin1(button.caption).remove(u'&'))) << button.caption;
+        EXPECT_TRUE(text.contains(QString::fromLatin1(button.shortcut))) << button.caption;
+    }
+}
+
+TEST_F(ShippedHelpTest, NamesEveryMenuEntryWithItsKeys)
+{
+    const QString text =
+        test::ReadText(test::ElementOfClass(html, QStringLiteral("table"), QStringLiteral("commands")));
+    for (const Menu& menu : kMenus) {
+        for (const MenuEntry& entry : menu.entries) {
+            if (entry.caption == nullptr) {
+                continue;
+            }
+            const QString keys =
+                QString::fromLatin1(entry.shortcuts).replace(QStringLiteral("; "), QStringLiteral(", "));
+            const QString named = QStringLiteral("%1, %2; %3")
+                                      .arg(QString::fromLatin1(menu.caption), QString::fromLatin1(entry.caption), keys);
+            EXPECT_TRUE(text.contains(QString(named).remove(u'&'))) << named.toStdString();
+        }
     }
 }
 
