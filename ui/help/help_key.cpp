@@ -23,7 +23,7 @@ bool IsHelpKey(const QEvent& event)
 std::optional<HelpTopic> TopicAt(const QWidget* widget)
 {
     for (; widget != nullptr; widget = widget->parentWidget()) {
-        if (const auto topic = FindHelpTopic(widget->objectName().toStdString()); topic && widget->isWindow()) {
+        if (const auto topic = FindHelpTopic(widget->objectName().toStdString())) {
             return topic;
         }
     }

@@ -139,10 +139,17 @@ bool HelpPage::FindText(const QString& text, QTextDocument::FindFlags direction)
 bool HelpPage::MarkNext(const QString& text, const QTextCursor& start, QTextDocument::FindFlags direction)
 {
     const QTextCursor found = document()->find(text, start, direction);
-    if (!found.isNull()) {
-        setTextCursor(found);
+    if (found.isNull()) {
+        return false;
     }
-    return !found.isNull();
+    setTextCursor(found);
+    // With some lines around it, not at the very edge.
+    const int height = viewport()->height();
+    const QRect line = cursorRect();
+    if (line.top() < Margin() || line.bottom() > height * 2 / 3) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + line.top() - height / 3);
+    }
+    return true;
 }
 
 QTextCursor HelpPage::StartOfSearch() const

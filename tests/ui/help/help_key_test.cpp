@@ -5,6 +5,8 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <gtest/gtest.h>

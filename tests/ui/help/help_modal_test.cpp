@@ -5,6 +5,7 @@
 #include "tests/ui/help/shipped_help.h"
 
 #include <QDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>

@@ -6,7 +6,10 @@
 
 #include <QImage>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTextBlock>
+#include <QTextFrame>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -138,7 +141,7 @@ TEST_F(HelpPageTest, FindsTextFromWhereOneReads)
     EXPECT_GT(page.textCursor().position(), 40 * 5) << "not at the top of the document";
     EXPECT_TRUE(page.FindText(QStringLiteral("gamma"), {}));
     EXPECT_EQ(page.textCursor().selectedText(), QStringLiteral("gamma"));
-    EXPECT_TRUE(page.viewport()->rect().intersects(page.cursorRect()));
+    EXPECT_NEAR(page.cursorRect().top(), page.viewport()->height() / 3, 2) << "with some lines around it";
 }
 
 TEST_F(HelpPageTest, FindsAroundTheEnds)

@@ -6,6 +6,8 @@
 #include "tests/support/temp_folder.h"
 #include "tests/ui/help/shipped_help.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
