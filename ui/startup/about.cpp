@@ -6,15 +6,14 @@
 #include "ui/startup/notices.h"
 #include "ui/startup/polar_picture.h"
 #include "ui/widgets/card.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/list_keys.h"
 #include "ui/widgets/looks.h"
 
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 
-#include <algorithm>
 #include <utility>
 
 namespace quillon::ui {
@@ -32,19 +31,6 @@ constexpr int kWindowFrame = 4;
 /// Room for the lines as they are on most systems.
 constexpr NoticeLabel::Column kColumn{78, kMargin + kPictureSide + kGap + kMargin + kWindowFrame};
 constexpr double kVersionFactor = 1.15;
-
-void MakeEquallyWide(const QList<QPushButton*>& buttons)
-{
-    int width = 0;
-    for (const QPushButton* button : buttons) {
-        const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-        width = std::max(width, caption.width() + 5 * BaseUnit());
-    }
-    for (QPushButton* button : buttons) {
-        button->setMinimumWidth(width);
-        button->setAutoDefault(false);
-    }
-}
 
 } // namespace
 
@@ -90,7 +76,6 @@ void About::NameControls()
 void About::LayOut()
 {
     const int unit = BaseUnit();
-    m_version->setFont(ScaledFont(kVersionFactor, QFont::DemiBold));
     m_path->SetElides(true, Qt::ElideMiddle);
     m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
@@ -103,12 +88,6 @@ void About::LayOut()
     lines->addWidget(m_comments);
     lines->addWidget(m_copyright);
 
-    MakeEquallyWide({m_sendMail, m_close});
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(m_sendMail);
-    buttons->addStretch(1);
-    buttons->addWidget(m_close);
-
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(kMargin * unit, kMargin * unit, kMargin * unit, kMargin * unit);
     grid->setHorizontalSpacing(kGap * unit);
@@ -116,7 +95,7 @@ void About::LayOut()
     grid->addWidget(new PolarPicture(kPictureSide, this), 0, 0, Qt::AlignTop);
     grid->addLayout(lines, 0, 1);
     grid->addWidget(new Hairline(this), 1, 0, 1, 2);
-    grid->addLayout(buttons, 2, 0, 1, 2);
+    grid->addLayout(ButtonRow({m_sendMail}, {m_close}), 2, 0, 1, 2);
     grid->setSizeConstraint(QLayout::SetFixedSize);
 
     setTabOrder(m_mail, m_sendMail);
@@ -132,6 +111,7 @@ void About::Open()
 void About::Prepare()
 {
     m_system = FillSystemInfo(m_ask);
+    m_version->setFont(ScaledFont(kVersionFactor, QFont::DemiBold));
     m_version->setText(VersionLine(m_program, m_system));
     m_appInfo->setText(SystemLine(m_system));
     m_path->setText(m_program.path);

@@ -1,5 +1,6 @@
 #include "ui/startup/about.h"
 
+#include "tests/support/application_font.h"
 #include "tests/support/find_widget.h"
 #include "tests/support/recording_shell.h"
 #include "tests/support/shown_window.h"
@@ -160,6 +161,18 @@ TEST_F(AboutTest, NoButtonIsPressedByEnterElsewhere)
     for (const QPushButton* button : about.findChildren<QPushButton*>()) {
         EXPECT_FALSE(button->autoDefault() || button->isDefault()) << button->objectName().toStdString();
     }
+}
+
+TEST_F(AboutTest, GrowsWithTheFontAtTheNextOpening)
+{
+    const test::ApplicationFont font;
+    about.Prepare();
+    const auto& version = test::Find<QLabel>(about, QStringLiteral("lblVersion"));
+    const double before = version.font().pointSizeF();
+    test::ApplicationFont::SetPointSize(2 * QApplication::font().pointSizeF());
+    about.Prepare();
+    EXPECT_DOUBLE_EQ(version.font().pointSizeF(), 2 * before);
+    EXPECT_EQ(version.font().weight(), QFont::DemiBold);
 }
 
 TEST_F(AboutTest, ALongPathDoesNotWidenIt)
