@@ -38,6 +38,11 @@ class StartingProgram(QuillonWindow):
     def click(self, window):
         self._xdotool("mousemove", "--window", window, "20", "20", "click", "1")
 
+    def wait_for_keyboard(self):
+        """Returns once the main window has the keyboard."""
+        wait_for("the program on the accessibility bus", self._application)
+        self.wait_for_no_dialog()
+
     def elapsed(self):
         return time.monotonic() - self.began
 
@@ -47,22 +52,22 @@ class StartUp(ProgramCase):
         with StartingProgram(self.program) as start:
             self.assertEqual(start.watch_until(BOTH), [(SPLASH,), BOTH])
             self.assertGreaterEqual(start.elapsed(), 2.5)
-            start.wait_for_no_dialog()
+            start.wait_for_keyboard()
             start.watch_until((TITLE,))
             self.assertGreaterEqual(start.elapsed(), 5)
-            start.wait_for_no_dialog()
+            start.wait_for_keyboard()
 
     def test_a_click_opens_the_main_window_in_place_of_the_splash(self):
         with StartingProgram(self.program) as start:
             splash = wait_for("the splash window", lambda: start.id_of(SPLASH))
             start.click(splash)
             self.assertNotIn(BOTH, start.watch_until((TITLE,)))
-            start.wait_for_no_dialog()
+            start.wait_for_keyboard()
 
     def test_keys_are_the_main_windows_while_the_splash_is_still_there_and_no_dialog_stands_behind_it(self):
         with StartingProgram(self.program) as start:
             start.watch_until(BOTH)
-            start.wait_for_no_dialog()
+            start.wait_for_keyboard()
             start.press("ctrl+o")
             start.wait_for_dialog(LOAD)
             self.assertIsNone(start.id_of(SPLASH))
@@ -72,7 +77,7 @@ class StartUp(ProgramCase):
     def test_closing_the_main_window_ends_the_program_with_the_splash(self):
         with StartingProgram(self.program) as start:
             start.watch_until(BOTH)
-            start.wait_for_no_dialog()
+            start.wait_for_keyboard()
             start.press("alt+F4")
             self.assertEqual(start.wait_for_end(), 0)
 
