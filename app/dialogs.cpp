@@ -36,7 +36,7 @@ void Dialogs::Show(ui::Command command)
     case ui::Command::ShowDBTable:
         return ui::ShowTable(&m_parts.window).Open();
     case ui::Command::EditAntennas:
-        return;
+        return EditAntennas().Open();
     case ui::Command::About:
         return About().Open();
     case ui::Command::HelpContents:
@@ -109,6 +109,15 @@ ui::PrintOut& Dialogs::PrintOut()
         m_printOut = new ui::PrintOut(Report(), m_parts.printers, m_parts.notifier, &m_parts.window);
     }
     return *m_printOut;
+}
+
+ui::EditAntennas& Dialogs::EditAntennas()
+{
+    if (m_editAntennas == nullptr) {
+        m_editAntennas = new ui::EditAntennas(m_parts.window, m_parts.catalogue, m_parts.folder, m_parts.store,
+                                              m_parts.notifier, &m_parts.window);
+    }
+    return *m_editAntennas;
 }
 
 ui::About& Dialogs::About()

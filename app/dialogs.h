@@ -2,6 +2,7 @@
 
 #include "store/profile_store.h"
 #include "store/read_write.h"
+#include "ui/editor/edit_antennas.h"
 #include "ui/help/help_key.h"
 #include "ui/help/help_window.h"
 #include "ui/main/quillon_window.h"
@@ -22,7 +23,8 @@ struct DialogParts
 {
     ui::Quillon& window;
     store::ProgramFolder folder;
-    store::ProfileStore& store;
+    const store::Catalogue& catalogue;
+    store::ProfileStore& store; ///< the one that the catalogue reads through
     engine::Notifier& notifier;
     ui::Printers& printers;
     ui::Shell& shell;
@@ -44,6 +46,7 @@ private:
     [[nodiscard]] ui::LoadSystem& LoadSystem();
     [[nodiscard]] ui::PrintSystemReport& Report();
     [[nodiscard]] ui::PrintOut& PrintOut();
+    [[nodiscard]] ui::EditAntennas& EditAntennas();
     [[nodiscard]] ui::About& About();
     [[nodiscard]] ui::HelpWindow& Help();
     void ShowHelp(int context);
@@ -56,6 +59,7 @@ private:
     ui::SaveSystem* m_saveSystem = nullptr;
     ui::LoadSystem* m_loadSystem = nullptr;
     ui::PrintOut* m_printOut = nullptr;
+    ui::EditAntennas* m_editAntennas = nullptr;
     ui::About* m_about = nullptr;
     ui::HelpWindow* m_help = nullptr;
     ui::HelpKey m_helpKey;

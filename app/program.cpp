@@ -8,7 +8,7 @@ Program::Program(const store::ProgramFolder& folder)
     : m_store(std::make_shared<store::ProfileStore>())
     , m_catalogue(folder, m_store)
     , m_window({m_systems, m_hooks, m_notifier, m_catalogue})
-    , m_dialogs({m_window, folder, *m_store, m_notifier, m_printers, m_shell})
+    , m_dialogs({m_window, folder, m_catalogue, *m_store, m_notifier, m_printers, m_shell})
 {
     m_notifier.SetOwner(&m_window);
     QObject::connect(&m_window, &ui::Quillon::Unloaded, qApp, &QApplication::quit, Qt::QueuedConnection);

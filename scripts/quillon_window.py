@@ -123,32 +123,48 @@ class QuillonWindow:
     def wait_for_names(self, *wanted):
         wait_for(f"{wanted}", lambda: set(wanted) <= set(self.names()), lambda: f"among {self.names()}")
 
-    def focused(self):
+    def focused(self, dialog=None):
         """Name of what has the keyboard; for the inner parts of a list box, the list box's."""
+        elements = self._elements
+        if dialog is not None:
+            elements = [(element, element.get_name()) for element in elements_below(self._window(dialog))]
         box = ""
-        for element, name in self._elements:
+        for element, name in elements:
             if element.get_role() == Atspi.Role.COMBO_BOX:
                 box = name
             if has_state(element, Atspi.StateType.FOCUSED):
                 return name or box
         return ""
 
-    def tab_to(self, name):
-        """Presses Tab until the named element has the keyboard."""
-        before = wait_for("the keyboard focus", self.focused)
+    def wait_for_focus(self, name, dialog=None):
+        """Returns once the named element has the keyboard: a button answers its access key only after a moment."""
+        wait_for(f'the keyboard in "{name}"', lambda: self.focused(dialog) == name, lambda: f"not in {self.focused(dialog)}")
+
+    def wait_until_usable(self, name, dialog):
+        """Returns once the named element of a dialog takes input."""
+        def usable():
+            found = [element for element in elements_below(self._window(dialog)) if element.get_name() == name]
+            return found and has_state(found[0], Atspi.StateType.SENSITIVE)
+
+        wait_for(f'"{name}" to be usable', usable)
+
+    def tab_to(self, name, dialog=None):
+        """Presses Tab until the named element has the keyboard, in the main window or in an open dialog."""
+        before = wait_for("the keyboard focus", lambda: self.focused(dialog))
         for _ in self._elements:
             if before == name:
                 return
             self.press("Tab")
-            before = wait_for("the focus to move on", lambda: self.focused() not in ("", before) and self.focused())
+            before = wait_for("the focus to move on",
+                              lambda: self.focused(dialog) not in ("", before) and self.focused(dialog))
         raise NotSeen(f'"{name}" on the way of the Tab key')
 
     def choose(self, list_name, entry):
         """Types an entry into the list that has the keyboard, in small letters, and takes it with Enter."""
-        wait_for(f'the keyboard in "{list_name}"', lambda: self.focused() == list_name, lambda: f"not in {self.focused()}")
+        self.wait_for_focus(list_name)
         box = next(element for element, name in self._elements if name == list_name)
         text = next(child for child in elements_below(box) if child.get_role() == Atspi.Role.TEXT)
-        self._xdotool("type", "--delay", "20", entry.lower())
+        self.type(entry.lower())
         wait_for(f'"{entry}" in "{list_name}"', lambda: text_of(text) == entry, lambda: f"not {text_of(text)}")
         self.press("Return")
 
@@ -170,6 +186,9 @@ class QuillonWindow:
 
     def press(self, key):
         self._xdotool("key", key)
+
+    def type(self, text):
+        self._xdotool("type", "--delay", "20", text)
 
     @staticmethod
     def _xdotool(*arguments):

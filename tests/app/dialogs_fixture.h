@@ -145,7 +145,7 @@ private:
     test::FakePrinters m_printers;
     ui::Quillon m_window{{m_systems, m_hooks, m_notifier, m_catalogue}};
     RecordingShell m_shell;
-    Dialogs m_dialogs{{m_window, m_folder, *m_store, m_notifier, m_printers, m_shell}};
+    Dialogs m_dialogs{{m_window, m_folder, m_catalogue, *m_store, m_notifier, m_printers, m_shell}};
 };
 
 } // namespace quillon

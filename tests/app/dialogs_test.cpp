@@ -17,7 +17,7 @@ TEST_F(DialogsTest, EachCommandOpensItsDialogOwnedByTheWindowAndKeepsIt)
     for (const auto& [command, name] :
          {CommandRow{Command::SaveSystem, "SaveSystem"}, CommandRow{Command::LoadSystem, "LoadSystem"},
           CommandRow{Command::PrintReport, "PrintOut"}, CommandRow{Command::PrintSystem, "PrintOut"},
-          CommandRow{Command::About, "About"}}) {
+          CommandRow{Command::EditAntennas, "EditAntennas"}, CommandRow{Command::About, "About"}}) {
         const QDialog* first = Give(command);
         ASSERT_NE(first, nullptr) << name;
         EXPECT_EQ(first->objectName().toStdString(), name);

@@ -38,7 +38,7 @@ inline constexpr std::array kCommandButtons{
     CommandButton{"cmdLoadSystem", "L&oad System", "Show gain / loss calculation factor table", "",
                   Command::LoadSystem},
     CommandButton{"cmdPrint", "&Print Report", "Print System Comparison Report", "Ctrl+R", Command::PrintReport},
-    CommandButton{"cmdEditAntennas", "&Edit Antennas", "Edit Antenna Data File", "Ctrl+E", Command::EditAntennas},
+    CommandButton{"cmdEditAntennas", "&Edit Antennas", "Edit Antenna Data File", "Ctrl+M", Command::EditAntennas},
     CommandButton{"cmddBTable", "Show &Table", "Show gain / loss calculation factor table", "", Command::ShowDBTable},
     CommandButton{"cmdCalculator", "Calc&ulator", "Launch Windows Calculator", "", Command::Calculator},
     CommandButton{"cmdClose", "&Close", "Close Quillon", "", Command::Close},

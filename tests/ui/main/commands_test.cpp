@@ -184,7 +184,7 @@ constexpr std::array kKeyRows{
     KeyRow{Qt::ControlModifier, Qt::Key_O, Command::LoadSystem},
     KeyRow{Qt::ControlModifier, Qt::Key_R, Command::PrintReport},
     KeyRow{Qt::ControlModifier, Qt::Key_P, Command::PrintSystem},
-    KeyRow{Qt::ControlModifier, Qt::Key_E, Command::EditAntennas},
+    KeyRow{Qt::ControlModifier, Qt::Key_M, Command::EditAntennas},
     KeyRow{Qt::ControlModifier, Qt::Key_T, Command::ShowDBTable},
     KeyRow{Qt::ControlModifier, Qt::Key_K, Command::Calculator},
     KeyRow{Qt::ControlModifier, Qt::Key_Q, Command::Close},
