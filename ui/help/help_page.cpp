@@ -19,7 +19,7 @@ namespace {
 
 /// Width of the text in digits: about twelve words a line, with the tables still in one piece.
 constexpr int kColumnDigits = 88;
-constexpr int kStartLines = 34;
+constexpr int kStartLines = 40;
 constexpr int kSmallestZoom = -5;
 constexpr int kLargestZoom = 20;
 

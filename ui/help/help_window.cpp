@@ -133,6 +133,7 @@ bool HelpWindow::ShowTopic(int context)
     }
     FirstSize();
     m_companion->Follow();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     // A place is found by its height, which counts only once the page has its width.
     m_page->Show(*html, context);

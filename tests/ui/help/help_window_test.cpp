@@ -61,6 +61,15 @@ TEST_F(HelpWindowTest, OpensAtTheTopicAskedFor)
     EXPECT_EQ(Top(), "Quillon Help");
 }
 
+TEST_F(HelpWindowTest, ComesBackWhenItWasPutAway)
+{
+    Open();
+    window.setWindowState(Qt::WindowMinimized);
+    ASSERT_TRUE(window.ShowTopic(15500));
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_EQ(Top(), "The dB table");
+}
+
 TEST_F(HelpWindowTest, DoesNotKeepTheProgramRunning)
 {
     EXPECT_FALSE(window.testAttribute(Qt::WA_QuitOnClose));
