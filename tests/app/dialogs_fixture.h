@@ -5,6 +5,7 @@
 #include "tests/support/find_widget.h"
 #include "tests/support/recording_hooks.h"
 #include "tests/support/recording_notifier.h"
+#include "tests/support/recording_shell.h"
 #include "tests/support/temp_folder.h"
 #include "tests/ui/report/fake_printers.h"
 
@@ -25,17 +26,6 @@
 #include <vector>
 
 namespace quillon {
-
-/// Keeps what would have been started, "calculator" or an address.
-class RecordingShell : public ui::Shell
-{
-public:
-    void StartCalculator() override { started.emplace_back("calculator"); }
-
-    void Open(const QUrl& address) override { started.push_back(address.toString().toStdString()); }
-
-    std::vector<std::string> started;
-};
 
 /// The main window with its dialogs, over an empty program folder and printers of the test's own.
 class DialogsTest : public ::testing::Test
@@ -91,9 +81,8 @@ protected:
     /// What a command that opens no dialog starts outside of the program.
     std::string StartedBy(ui::Command command)
     {
-        m_shell.started.clear();
         emit m_window.CommandGiven(command);
-        return ::testing::PrintToString(m_shell.started);
+        return m_shell.Calls().empty() ? "nothing" : m_shell.Calls().back();
     }
 
     /// Both systems as they are once an antenna and a coax are chosen for each.
@@ -144,7 +133,7 @@ private:
     store::Catalogue m_catalogue{m_folder, m_store};
     test::FakePrinters m_printers;
     ui::Quillon m_window{{m_systems, m_hooks, m_notifier, m_catalogue}};
-    RecordingShell m_shell;
+    support::RecordingShell m_shell;
     Dialogs m_dialogs{{m_window, m_folder, m_catalogue, *m_store, m_notifier, m_printers, m_shell}};
 };
 

@@ -68,9 +68,9 @@ TEST_F(DialogsTest, EachOpeningOfTheDBTableIsAFreshOne)
 
 TEST_F(DialogsTest, CalculatorAndLinksAreStartedOutside)
 {
-    EXPECT_EQ(StartedBy(Command::Calculator), R"({ "calculator" })");
-    EXPECT_EQ(StartedBy(Command::QuillonOnline), R"({ "https://quillon.example/" })");
-    EXPECT_EQ(StartedBy(Command::Tarvel), R"({ "https://tarvel.example/" })");
+    EXPECT_EQ(StartedBy(Command::Calculator), "calculator");
+    EXPECT_EQ(StartedBy(Command::QuillonOnline), "https://quillon.example/");
+    EXPECT_EQ(StartedBy(Command::Tarvel), "https://tarvel.example/");
 }
 
 } // namespace
