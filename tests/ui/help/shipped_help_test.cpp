@@ -118,9 +118,7 @@ const char* const kCaptions[] = {
     "Save System", "Load System", "Calculator", "Close", "Edit Antennas", "Show Table", "Print Report",
     "Program, Show db Table", "Program, Load System", "Program, Save System", "Program, Print System",
     "Program, Calculator", "Program, Exit", "Links, Quillon Online", "Links, Tarvel Software", "Help, About",
-    "Help, Help Overview", "Ctrl+S", "Ctrl+O", "Ctrl+P", "Ctrl+Q", "F1", "Ctrl+R", "Ctrl+E", "Ctrl+T", "Ctrl+K",
-    "Ctrl+L", "Ctrl+Shift+L", "Ctrl+I", "Ctrl+H", "Send E-Mail",
-    "A system has been configured. Do you want to save it?",
+    "Help, Help Overview", "Send E-Mail", "A system has been configured. Do you want to save it?",
     // Saving and loading.
     "Save Current Antenna System", "Enter a Name for the Antenna Systems", "Antenna System One", "Antenna System Two",
     "There is no system configured to save!", "System Name is Empty! Please Create a System and Try Again.",
