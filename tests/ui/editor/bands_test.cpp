@@ -71,6 +71,8 @@ TEST_F(BandsTest, OtherMouseButtonsAndLettingGoOutsideChangeAndAskNothing)
     QWidget& box = Find("chkBands(2)");
     Answer(true);
     QTest::mouseClick(&box, Qt::RightButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    QCoreApplication::processEvents();
+    Answer(true);
     QTest::mousePress(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
     QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
     QCoreApplication::processEvents();
