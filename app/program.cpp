@@ -11,7 +11,8 @@ Program::Program(const store::ProgramFolder& folder)
     , m_dialogs({m_window, folder, m_catalogue, *m_store, m_notifier, m_printers, m_shell})
 {
     m_notifier.SetOwner(&m_window);
-    QObject::connect(&m_window, &ui::Quillon::Unloaded, qApp, &QApplication::quit, Qt::QueuedConnection);
+    QObject::connect(
+        &m_window, &ui::Quillon::Unloaded, qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
 }
 
 void Program::Show()

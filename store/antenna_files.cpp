@@ -42,7 +42,7 @@ std::string IndexSection(std::string_view brand)
 
 bool Contains(std::string_view text, std::string_view part)
 {
-    const auto isEqual = [](char left, char right) { return FoldCase(left) == FoldCase(right); };
+    const auto isEqual = [](char left, char right) { return UpperCase(left) == UpperCase(right); };
     return std::search(text.begin(), text.end(), part.begin(), part.end(), isEqual) != text.end();
 }
 

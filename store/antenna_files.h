@@ -38,10 +38,11 @@ struct ModelFigures
 /// @throws ArithmeticError when that does not fit 16 bits.
 [[nodiscard]] std::int16_t ToGainTenths(double decibels);
 
-/// Writes the antenna catalogue and its index. Each command replaces each file that it changes once; when it returns
-/// false, for a file that cannot be written or a name that cannot be one, the file stands as before. What to ask the
-/// user first is the caller's: BrandFileExists and FirstModelWith give the occasions. Makers' names are bytes as in the
-/// names of files; models' names are in the files' code page.
+/// Writes the antenna catalogue and its index. Each command replaces each file that it changes once. It
+/// returns false for a file that cannot be written or a name that cannot be one: the file then stands as before, or,
+/// when nothing failed but to make it last, is new as a whole. What to ask the user first is the caller's:
+/// BrandFileExists and FirstModelWith give the occasions. Makers' names are bytes as in the names of files; models'
+/// names are in the files' code page.
 class AntennaFiles
 {
 public:

@@ -13,4 +13,23 @@ namespace quillon::store {
 /// UTF-8 text in code page 1252. @return nothing when the page lacks a character or the text is not valid UTF-8.
 [[nodiscard]] std::optional<std::string> FromUtf8(std::string_view text);
 
+/// A letter of code page 1252 as a capital; any other byte as it is.
+[[nodiscard]] constexpr char UpperCase(char byte) noexcept
+{
+    switch (static_cast<unsigned char>(byte)) {
+    case 0x9A: // s, z with caron; oe
+    case 0x9C:
+    case 0x9E:
+        return static_cast<char>(static_cast<unsigned char>(byte) - 0x10);
+    case 0xF7: // the division sign among the letters
+        return byte;
+    case 0xFF: // y with two dots
+        return '\x9F';
+    default:
+        break;
+    }
+    const bool isSmall = (byte >= 'a' && byte <= 'z') || static_cast<unsigned char>(byte) >= 0xE0;
+    return isSmall ? static_cast<char>(static_cast<unsigned char>(byte) - 0x20) : byte;
+}
+
 } // namespace quillon::store

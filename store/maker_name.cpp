@@ -35,7 +35,8 @@ NameFault MakerNameFault(std::string_view name)
     if (!bytes) {
         return NameFault::NotInCodePage;
     }
-    if (WithoutBlanks(*bytes) != *bytes) {
+    // The index and the saved systems hold it as a value.
+    if (WithoutQuotes(WithoutBlanks(*bytes)) != *bytes) {
         return NameFault::NotReadBack;
     }
     return bytes->size() > kLongestMakerName ? NameFault::TooLong : NameFault::None;

@@ -1,5 +1,7 @@
 #include "tests/app/dialogs_fixture.h"
 
+#include <QTest>
+
 namespace quillon {
 namespace {
 
@@ -31,6 +33,18 @@ TEST_F(DialogsTest, ClosingWithYesShowsTheSaveDialogBesideTheWindow)
     EXPECT_TRUE(SaveDialog()->isVisible());
     EXPECT_FALSE(SaveDialog()->isModal());
     EXPECT_EQ(SaveDialog()->parentWidget(), Window());
+}
+
+TEST_F(DialogsTest, SaveDialogBesideTheWindowShowsWhatItWouldSave)
+{
+    Configure();
+    ASSERT_TRUE(CloseAndAnswer(QMessageBox::Yes));
+    Main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == Window(); }));
+    Systems().Data[engine::SystemId::One].AntennaBrand = "OTHER";
+    SaveDialog()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == SaveDialog(); }));
+    EXPECT_EQ(test::Find<QLabel>(*SaveDialog(), QStringLiteral("lblSave(0)")).text(), QStringLiteral("OTHER - "));
 }
 
 TEST_F(DialogsTest, SaveDialogBesideTheWindowIsModalOnceItIsAskedFor)

@@ -1,4 +1,5 @@
 #include "tests/app/dialogs_fixture.h"
+#include "ui/help/help_topics.h"
 #include "ui/table/show_table.h"
 
 namespace quillon {
@@ -23,6 +24,7 @@ TEST_F(DialogsTest, EachCommandOpensItsDialogOwnedByTheWindowAndKeepsIt)
         EXPECT_EQ(first->objectName().toStdString(), name);
         EXPECT_EQ(first->parentWidget(), Window()) << name;
         EXPECT_EQ(Give(command), first) << name;
+        EXPECT_TRUE(ui::FindHelpTopic(name)) << name;
     }
 }
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDialog>
 #include <QTest>
 #include <QTimer>
@@ -87,6 +88,22 @@ TEST_F(ProgramTest, ClosingTheMainWindowInTheSecondWaitEndsIt)
     ASSERT_TRUE(QTest::qWaitFor([this] { return program && program->Window().isVisible(); }));
     program->Window().close();
     EXPECT_TRUE(splash->isVisible()) << "until the program's objects go";
+    EXPECT_EQ(Run(), 0);
+}
+
+TEST_F(ProgramTest, ClosingTheMainWindowEndsItWhateverStandsOpenBeside)
+{
+    Start(kForever);
+    splash->close();
+    ASSERT_TRUE(program);
+
+    class Stubborn : public QDialog
+    {
+        void closeEvent(QCloseEvent* event) override { event->ignore(); }
+    } beside;
+
+    beside.show();
+    QTimer::singleShot(0, &program->Window(), &QWidget::close);
     EXPECT_EQ(Run(), 0);
 }
 

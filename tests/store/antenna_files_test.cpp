@@ -148,7 +148,8 @@ class ModelSearch : public AntennaFilesTest, public ::testing::WithParamInterfac
 
 TEST_P(ModelSearch, FindsTheFirstNameThatContainsIt)
 {
-    folder.Put("Antennas/Acme.DAT", "[XR-5]\nGain20=71\n[A-99]\n[a-99 b]\n");
+    folder.Put("Antennas/Acme.DAT", "[XR-5]\nGain20=71\n[A-99]\n[a-99 b]\n[M\xFC"
+                                    "hle]\n");
     EXPECT_EQ(files.FirstModelWith("Acme", GetParam().model), GetParam().found);
     EXPECT_EQ(std::ranges::count(calls.Made(), "write"), 0);
 }
@@ -162,6 +163,7 @@ INSTANTIATE_TEST_SUITE_P(Names, ModelSearch, ::testing::Values(
     SearchRow{"other letters", "a-99", "A-99"},
     SearchRow{"longer than any", "XR-5 MKII", std::nullopt},
     SearchRow{"longer than the first only", "A-99 B", "a-99 b"},
+    SearchRow{"capital of the code page", "M\xDC" "H", "M\xFC" "hle"},
     SearchRow{"other", "Q", std::nullopt}), support::RowName());
 
 // clang-format on

@@ -82,6 +82,44 @@ INSTANTIATE_TEST_SUITE_P(Texts, RefusedByCodePage, ::testing::Values(
     RefusedRow{"overlong three bytes", "\xE0\x83\xBC"},
     RefusedRow{"half of a surrogate pair", "\xED\xA0\x80"},
     RefusedRow{"byte that never occurs", "\xFF\xBF\xBF"}), support::RowName());
+
+// clang-format on
+
+/// A byte and its capital; equal for what is no small letter.
+struct CapitalRow
+{
+    const char* name;
+    char byte;
+    char capital;
+};
+
+class Capital : public ::testing::TestWithParam<CapitalRow>
+{
+};
+
+TEST_P(Capital, OfAByteIsTheLettersOfTheCodePage)
+{
+    EXPECT_EQ(UpperCase(GetParam().byte), GetParam().capital);
+    EXPECT_EQ(UpperCase(GetParam().capital), GetParam().capital);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Bytes, Capital, ::testing::Values(
+    CapitalRow{"first letter", 'a', 'A'},
+    CapitalRow{"last letter", 'z', 'Z'},
+    CapitalRow{"before the letters", '`', '`'},
+    CapitalRow{"behind the letters", '{', '{'},
+    CapitalRow{"digit", '7', '7'},
+    CapitalRow{"s with caron", '\x9A', '\x8A'},
+    CapitalRow{"oe", '\x9C', '\x8C'},
+    CapitalRow{"z with caron", '\x9E', '\x8E'},
+    CapitalRow{"trade mark between them", '\x99', '\x99'},
+    CapitalRow{"sharp s, which has none", '\xDF', '\xDF'},
+    CapitalRow{"first with an accent", '\xE0', '\xC0'},
+    CapitalRow{"u with two dots", '\xFC', '\xDC'},
+    CapitalRow{"division sign", '\xF7', '\xF7'},
+    CapitalRow{"last with an accent", '\xFE', '\xDE'},
+    CapitalRow{"y with two dots", '\xFF', '\x9F'}), support::RowName());
 // clang-format on
 
 } // namespace

@@ -54,6 +54,7 @@ INSTANTIATE_TEST_SUITE_P(Refused, MakerNameRow, ::testing::Values(
     Row{"point at the end", "a.", NameFault::BadEnding},
     Row{"three points", "...", NameFault::BadEnding},
     Row{"blank in front, which the index would drop", " a", NameFault::NotReadBack},
+    Row{"quotes around, which a value loses", "\"a\"", NameFault::NotReadBack},
     Row{"26 characters", std::string(26, 'a'), NameFault::TooLong},
     Row{"letter that the files cannot hold", "Ωmega", NameFault::NotInCodePage},
     Row{"bytes that are no UTF-8", "M\xFChle", NameFault::NotInCodePage}), support::RowName());

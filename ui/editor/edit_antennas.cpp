@@ -26,7 +26,7 @@ namespace quillon::ui {
 namespace {
 
 const QString kTitle = QStringLiteral("Manage Antenna Database");
-const QString kNotWritten = QStringLiteral("The file of “%1” could not be written. Nothing has been changed.");
+const QString kNotWritten = QStringLiteral("The file of “%1” could not be written.");
 const QString kIndexNotWritten =
     QStringLiteral("The file of “%1” is written, but the index of the antenna files could not be.");
 const QString kNoMaker = QStringLiteral("“%1” is the name of something else than an antenna file.");
@@ -168,6 +168,9 @@ void EditAntennas::LoadModels()
     const bool hasMaker = m_selection->Makers().HasChoice();
     m_selection->Models().Fill(hasMaker ? SectionEntries(m_catalogue.LoadAntennas(Maker())) : QList<CatalogueEntry>());
     m_selection->AddNewModel().setEnabled(hasMaker);
+    if (!hasMaker) {
+        m_selection->Model().Empty();
+    }
     m_selection->Edit().setEnabled(false);
     m_fields->Clear();
     SetEditing(false);
@@ -289,11 +292,12 @@ void EditAntennas::cmdSave_Click()
         fault->box->setFocus();
         return;
     }
-    if (!m_files.SaveChanges(Maker(), Model(), std::get<store::ModelFigures>(figures))) {
+    const bool isWritten = m_files.SaveChanges(Maker(), Model(), std::get<store::ModelFigures>(figures));
+    m_window.ReloadAntennas(Maker());
+    if (!isWritten) {
         Tell(kNotWritten.arg(m_selection->Makers().currentText()));
         return;
     }
-    m_window.ReloadAntennas(Maker());
     if (!UpdateIndex()) {
         return;
     }

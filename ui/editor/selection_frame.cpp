@@ -4,6 +4,7 @@
 #include "ui/widgets/card.h"
 #include "ui/widgets/catalogue_list_box.h"
 #include "ui/widgets/catalogue_text.h"
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 #include "ui/widgets/quiet_label.h"
@@ -34,8 +35,7 @@ QPushButton* NewButton(const char* name, const char* caption, const char* toolTi
     button->setObjectName(QString::fromUtf8(name));
     button->setToolTip(QString::fromUtf8(toolTip));
     button->setAutoDefault(false);
-    const QSize shown = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-    button->setMinimumWidth(shown.width() + 5 * BaseUnit());
+    FitButtons({button});
     return button;
 }
 

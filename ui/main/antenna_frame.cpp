@@ -6,10 +6,10 @@
 #include "engine/number_text.h"
 #include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
-#include "ui/widgets/typed_number.h"
 #include "ui/widgets/catalogue_text.h"
 #include "ui/widgets/list_group.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/typed_number.h"
 
 #include <QVBoxLayout>
 
@@ -108,7 +108,7 @@ void AntennaFrame::Reload(const QByteArray& maker)
         SectionEntries(Work().Catalogue().LoadAntennaGain(maker.toStdString(), model.toStdString(), Work().Bands())));
     // While the lists are out of use, a typed gain is in force: it is the user's, and stays.
     if (m_lists[Band]->HasChoice() && m_lists[Band]->isEnabledTo(this)) {
-        BandChosen();
+        FollowGain();
     } else if (hadBand && !m_lists[Band]->HasChoice()) {
         m_port.SetFrequencyFollowsBand(false);
     }
@@ -175,9 +175,8 @@ void AntennaFrame::TakeBand()
     Work().Catalogue().LoadAntennaGain(maker, model, Work().Bands());
 
     Data().UseAntennaList = engine::kTrue;
-    Data().GainType = Work().Catalogue().LoadAntennaGainType(maker, model);
-    Data().AntennaGain = engine::GainToDBd(GainOfBand(), Data().GainType);
-    Work().Results(System()).AntennaGainDBd = Data().AntennaGain;
+    const std::string gainType = Work().Catalogue().LoadAntennaGainType(maker, model);
+    TakeGain(engine::GainToDBd(GainOfBand(), gainType), gainType);
 
     Data().Frequency =
         engine::RoundWithMask(engine::FrequencyForBand(m_lists[Band]->ChosenName().toStdString()), kBandFrequencyMask);
@@ -191,6 +190,37 @@ void AntennaFrame::TakeBand()
     Work().RefreshData(System());
 
     ShowGain();
+}
+
+void AntennaFrame::TakeGain(float dBd, const std::string& gainType)
+{
+    m_listGain = dBd;
+    Data().GainType = gainType;
+    Data().AntennaGain = dBd;
+    Work().Results(System()).AntennaGainDBd = dBd;
+}
+
+void AntennaFrame::FollowGain()
+{
+    const std::string maker = m_lists[Brand]->ChosenName().toStdString();
+    const std::string gainType =
+        Work().Catalogue().LoadAntennaGainType(maker, m_lists[Model]->ChosenName().toStdString());
+    const float dBd = engine::GainToDBd(GainOfBand(), gainType);
+    // A gain that was typed since is the user's. What stays as it was asks for no computation.
+    const bool isInForce = Data().AntennaGain == m_listGain;
+    if (!isInForce || (dBd == m_listGain && gainType == Data().GainType)) {
+        return;
+    }
+    const auto follow = [&] {
+        TakeGain(dBd, gainType);
+        Work().RefreshData(System());
+        ShowGain();
+    };
+    if (Work().Attempt(System(), follow)) {
+        m_lists[Band]->ClearMark();
+    } else {
+        m_lists[Band]->Mark(TooLarge(m_lists[Band]->currentText()));
+    }
 }
 
 void AntennaFrame::ShowGain()

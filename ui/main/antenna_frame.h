@@ -24,8 +24,8 @@ public:
     void LoadAntennas(const QByteArray& maker);
     /// Adds a model's bands to the band list.
     void LoadAntennaGain(const QByteArray& maker, const QByteArray& model);
-    /// Follows a change of a maker's file: the lists below the brand are filled anew, and the chosen band's gain is
-    /// taken over again. Without effect while another maker is chosen.
+    /// Follows a change of a maker's file: the lists below the brand are filled anew, and a new gain of the
+    /// chosen band is taken over. Without effect while another maker is chosen.
     void Reload(const QByteArray& maker);
     void cboAntenna_Click(int index);
     /// Chooses the record's brand, model and band in the lists. What a list does not have stays as the record holds it.
@@ -43,6 +43,10 @@ private:
     void ModelChosen();
     void BandChosen();
     void TakeBand();
+    /// Takes the chosen band's gain over when the catalogue has changed it.
+    void FollowGain();
+    /// Writes a gain into the record. @param dBd  as GainToDBd gives it
+    void TakeGain(float dBd, const std::string& gainType);
     /// Takes the record's own gain into force, for a frequency that is no band's working frequency.
     void TakeRecordGain();
     void ShowGain();
@@ -51,6 +55,7 @@ private:
     SystemPort& m_port;
     QList<CatalogueListBox*> m_lists;
     ForceLine* m_line;
+    float m_listGain = 0; ///< dBd, as last taken from the lists
 };
 
 } // namespace quillon::ui

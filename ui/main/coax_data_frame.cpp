@@ -4,10 +4,10 @@
 #include "engine/coax_model.h"
 #include "engine/spin_conversions.h"
 #include "ui/main/spin_ranges.h"
-#include "ui/widgets/typed_number.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/typed_number.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -4,11 +4,11 @@
 #include "engine/number_text.h"
 #include "ui/main/saved_choice.h"
 #include "ui/main/system_port.h"
-#include "ui/widgets/typed_number.h"
 #include "ui/widgets/catalogue_text.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/list_group.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/typed_number.h"
 
 #include <QVBoxLayout>
 

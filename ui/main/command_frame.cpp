@@ -1,13 +1,12 @@
 #include "ui/main/command_frame.h"
 
+#include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
-
-#include <algorithm>
 
 namespace quillon::ui {
 
@@ -35,7 +34,7 @@ CommandFrame::CommandFrame(QWidget* parent)
         row->addWidget(made);
         m_buttons.append(made);
     }
-    FitButtons();
+    FitButtons(m_buttons);
 }
 
 QList<QWidget*> CommandFrame::TabOrder() const
@@ -47,19 +46,7 @@ void CommandFrame::changeEvent(QEvent* event)
 {
     TitledFrame::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
-        FitButtons();
-    }
-}
-
-void CommandFrame::FitButtons()
-{
-    int widest = 0;
-    for (const QPushButton* button : m_buttons) {
-        const QFontMetrics metrics(button->font());
-        widest = std::max(widest, metrics.size(Qt::TextShowMnemonic, button->text()).width());
-    }
-    for (QPushButton* button : m_buttons) {
-        button->setMinimumWidth(widest + 5 * BaseUnit());
+        FitButtons(m_buttons);
     }
 }
 

@@ -26,9 +26,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Gives all buttons the width of the widest caption.
-    void FitButtons();
-
     QList<QPushButton*> m_buttons;
 };
 

@@ -3,10 +3,10 @@
 #include "engine/key_checks.h"
 #include "engine/spin_conversions.h"
 #include "ui/main/spin_ranges.h"
-#include "ui/widgets/typed_number.h"
 #include "ui/platform/virtual_keys.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/typed_number.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

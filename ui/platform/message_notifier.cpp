@@ -1,6 +1,7 @@
 #include "ui/platform/message_notifier.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 
 namespace quillon::ui {
@@ -19,11 +20,19 @@ MessageNotifier::MessageNotifier(QWidget* owner)
 {
 }
 
+// A dialog that is open must not come to stand in front of its message, also one that stands beside the main window.
+QWidget* MessageNotifier::Owner() const
+{
+    if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr) {
+        return modal;
+    }
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeWindow());
+    return dialog != nullptr ? dialog : m_owner;
+}
+
 void MessageNotifier::Inform(std::string_view text, std::string_view title)
 {
-    // A dialog that is open must not come to stand in front of its message.
-    QWidget* dialog = QApplication::activeModalWidget();
-    QMessageBox box(dialog != nullptr ? dialog : m_owner);
+    QMessageBox box(Owner());
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setIcon(QMessageBox::Information);
     box.setWindowTitle(title.empty() ? QStringLiteral("Quillon") : FromUtf8(title));

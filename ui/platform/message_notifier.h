@@ -18,6 +18,8 @@ public:
     void Inform(std::string_view text, std::string_view title) override;
 
 private:
+    [[nodiscard]] QWidget* Owner() const;
+
     QWidget* m_owner;
 };
 

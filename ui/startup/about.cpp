@@ -5,13 +5,12 @@
 #include "ui/startup/notice_label.h"
 #include "ui/startup/notices.h"
 #include "ui/startup/polar_picture.h"
+#include "ui/widgets/button_keys.h"
 #include "ui/widgets/card.h"
 #include "ui/widgets/layout_parts.h"
-#include "ui/widgets/list_keys.h"
 #include "ui/widgets/looks.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 
 #include <utility>
@@ -130,11 +129,8 @@ void About::lblEMail_Click()
 
 void About::keyPressEvent(QKeyEvent* event)
 {
-    auto* button = qobject_cast<QPushButton*>(focusWidget());
-    if (button == nullptr || !IsEnter(*event)) {
+    if (!PressFocusedButton(*this, *event)) {
         QDialog::keyPressEvent(event);
-    } else if (!event->isAutoRepeat()) {
-        button->click();
     }
 }
 

@@ -4,11 +4,8 @@
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QPushButton>
-
-#include <algorithm>
 
 namespace quillon::ui {
 
@@ -17,17 +14,6 @@ namespace {
 enum Row { TopRow, SystemsRow, ButtonsRow };
 
 constexpr int kColumns = 2;
-
-QHBoxLayout* ButtonsAtTheRight(const QList<QPushButton*>& buttons)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2 * BaseUnit());
-    row->addStretch(1);
-    for (QPushButton* button : buttons) {
-        row->addWidget(button);
-    }
-    return row;
-}
 
 } // namespace
 
@@ -52,14 +38,13 @@ void PairDialog::LayOut(TitledFrame* fieldFrame, QWidget* field, const QList<QPu
     grid->addLayout(InCard(fieldFrame), TopRow, 0, 1, kColumns);
     grid->addLayout(InCard(m_frames[engine::SystemId::One]), SystemsRow, 0);
     grid->addLayout(InCard(m_frames[engine::SystemId::Two]), SystemsRow, 1);
-    grid->addLayout(ButtonsAtTheRight(buttons), ButtonsRow, 0, 1, kColumns, Qt::AlignBottom);
+    grid->addLayout(ButtonRow({}, buttons), ButtonsRow, 0, 1, kColumns, Qt::AlignBottom);
     grid->setRowStretch(ButtonsRow, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
 
     QWidget* before = field;
     for (QPushButton* button : buttons) {
-        button->setAutoDefault(false);
         setTabOrder(before, button);
         before = button;
     }
@@ -67,14 +52,7 @@ void PairDialog::LayOut(TitledFrame* fieldFrame, QWidget* field, const QList<QPu
 
 void PairDialog::FitButtons()
 {
-    int width = 0;
-    for (const QPushButton* button : m_buttons) {
-        const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-        width = std::max(width, caption.width() + 5 * BaseUnit());
-    }
-    for (QPushButton* button : m_buttons) {
-        button->setMinimumWidth(width);
-    }
+    ui::FitButtons(m_buttons);
 }
 
 void PairDialog::keyPressEvent(QKeyEvent* event)

@@ -4,6 +4,7 @@
 #include "ui/platform/question_box.h"
 #include "ui/systems/system_name.h"
 
+#include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -94,16 +95,29 @@ void SaveSystem::Prepare()
         KeepFromSaving();
         return;
     }
-    const engine::PerSystem<engine::SystemData>& systems = m_window.Systems().Data;
-    for (const engine::SystemId system : engine::kBothSystems) {
-        Frame(system).Show(store::NamesOf(systems[system]));
-    }
-    m_name->setText(ProposedName(systems));
+    ShowSystems();
+    m_name->setText(ProposedName(m_window.Systems().Data));
     m_name->selectAll();
     if (m_name->text().isEmpty()) {
         m_notifier.Inform("There is no system configured to save!", "Saved Systems");
         KeepFromSaving();
     }
+}
+
+void SaveSystem::ShowSystems()
+{
+    for (const engine::SystemId system : engine::kBothSystems) {
+        Frame(system).Show(store::NamesOf(m_window.Systems().Data[system]));
+    }
+}
+
+bool SaveSystem::event(QEvent* event)
+{
+    // Beside the main window the systems may have changed in the meantime.
+    if (event->type() == QEvent::WindowActivate && !isModal() && m_save->isEnabled()) {
+        ShowSystems();
+    }
+    return PairDialog::event(event);
 }
 
 void SaveSystem::cmdSave_Click()

@@ -29,10 +29,14 @@ public:
     /// there is nothing to save, or nowhere to save it to.
     void Prepare();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void cmdSave_Click();
 
     void RestoreDesign();
+    void ShowSystems();
     void KeepFromSaving();
     void Save(const std::string& name);
 

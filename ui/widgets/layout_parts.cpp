@@ -47,22 +47,28 @@ QGridLayout* InCard(QWidget* frame)
     return cell;
 }
 
-QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right)
+void FitButtons(const QList<QPushButton*>& buttons)
 {
-    const QList<QPushButton*> all = left + right;
     int width = 0;
-    for (const QPushButton* button : all) {
+    for (const QPushButton* button : buttons) {
         const QSize caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
         width = std::max(width, caption.width() + 5 * BaseUnit());
     }
+    for (QPushButton* button : buttons) {
+        button->setMinimumWidth(width);
+    }
+}
+
+QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right)
+{
+    FitButtons(left + right);
     auto* row = new QHBoxLayout;
     row->setSpacing(2 * BaseUnit());
-    for (QPushButton* button : all) {
+    for (QPushButton* button : left + right) {
         if (button == right.first()) {
             row->addStretch(1);
         }
         button->setAutoDefault(false);
-        button->setMinimumWidth(width);
         row->addWidget(button);
     }
     return row;

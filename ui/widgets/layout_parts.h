@@ -20,6 +20,9 @@ namespace quillon::ui {
 /// A frame with a card behind it.
 [[nodiscard]] QGridLayout* InCard(QWidget* frame);
 
+/// Makes buttons as wide as the widest of their captions asks for.
+void FitButtons(const QList<QPushButton*>& buttons);
+
 /// Buttons at the bottom of a dialog, all as wide as the widest caption asks for, none pressed by Enter elsewhere.
 [[nodiscard]] QHBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right);
 

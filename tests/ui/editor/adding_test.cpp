@@ -207,7 +207,9 @@ INSTANTIATE_TEST_SUITE_P(Names, RefusedBrand, ::testing::Values(
     RefusedRow{"26 characters", "abcdefghijklmnopqrstuvwxyz", "The antenna brand is longer than 25 characters."},
     RefusedRow{"letter beyond the code page", "Ω", "The antenna brand holds a character that the data files cannot hold."},
     RefusedRow{"blank in front", " a",
-               "The antenna brand begins or ends with a blank, which would be lost in the data file."}), support::RowName());
+               "The antenna brand begins or ends with a blank, which would be lost in the data file."},
+    RefusedRow{"quotes around", "\"a\"", "The antenna brand stands in quotes, which would be lost in the data file."}),
+    support::RowName());
 
 class RefusedModel : public AddingTest, public ::testing::WithParamInterface<RefusedRow>
 {
@@ -251,8 +253,7 @@ TEST_F(AddingTest, BrandThatCannotBeWrittenIsTold)
 {
     std::filesystem::remove_all(folder / "Antennas");
     AddBrand("Wirecraft");
-    EXPECT_EQ(notifier.Messages(),
-              (Messages{{"The file of “Wirecraft” could not be written. Nothing has been changed.", kTitle}}));
+    EXPECT_EQ(notifier.Messages(), (Messages{{"The file of “Wirecraft” could not be written.", kTitle}}));
     EXPECT_EQ(Focus(), "txtAntennaBrand");
     EXPECT_TRUE(window.Calls().empty());
 }
@@ -267,13 +268,24 @@ TEST_F(AddingTest, FolderInTheBrandsPlaceIsTold)
     EXPECT_FALSE(List("cboAntennaMakers").HasChoice());
 }
 
+TEST_F(AddingTest, NameOfAModelIsNotTakenWithoutAMaker)
+{
+    ChooseMaker("ACME");
+    Click("cmdAddNewModel");
+    EXPECT_TRUE(Box("txtAntennaModel").isEnabled());
+    std::filesystem::create_directory(folder / "Antennas/Wirecraft.DAT");
+    Answer(true);
+    AddBrand("Wirecraft");
+    EXPECT_FALSE(Box("txtAntennaModel").isEnabled());
+    EXPECT_FALSE(Find("cmdAddNewModel").isEnabled());
+}
+
 TEST_F(AddingTest, ModelThatCannotBeWrittenIsTold)
 {
     ChooseMaker("ACME");
     std::filesystem::remove_all(folder / "Antennas");
     AddModel("New");
-    EXPECT_EQ(notifier.Messages(),
-              (Messages{{"The file of “ACME” could not be written. Nothing has been changed.", kTitle}}));
+    EXPECT_EQ(notifier.Messages(), (Messages{{"The file of “ACME” could not be written.", kTitle}}));
     EXPECT_EQ(Text("txtAntennaModel"), "New");
     EXPECT_TRUE(Box("txtAntennaModel").isEnabled());
     EXPECT_TRUE(window.Calls().empty());

@@ -87,6 +87,26 @@ TEST_P(CatalogueChange, RemovedBandLeavesTheFiguresAndGivesTheFrequencyBack)
     EXPECT_FALSE(Box(Own("txtFrequency")).isReadOnly());
 }
 
+TEST_P(CatalogueChange, OfTheGainLeavesTheCableAsItIs)
+{
+    ChooseCoax("TIMES MICROWAVE", "LMR-A");
+    ChooseAntenna("HALO", "LOOP", "2 Meters");
+    // The loss of such a cable is that of the length at its choice, as given: a new choice would change it.
+    Paste(Spelled("txtSystem%CoaxLength"), "50");
+    const float loss = Data().CoaxLoss;
+    Change("HALO", "[LOOP]\nGainType=dBd\nGain2=70\n");
+    EXPECT_EQ(Data().AntennaGain, 7.0F);
+    EXPECT_EQ(Data().CoaxLoss, loss);
+}
+
+TEST_P(CatalogueChange, WithoutANewGainComputesNothing)
+{
+    ChooseAntenna("HALO", "LOOP", "2 Meters");
+    Results().ERP = 123;
+    Change("HALO", "[LOOP]\nGainType=dBd\nGain2=5\nGain6=9\n[NEW]\nGainType=dBd\n");
+    EXPECT_EQ(Results().ERP, 123.0F);
+}
+
 TEST_P(CatalogueChange, OfAnotherMakerChangesNothing)
 {
     ChooseAntenna("HALO", "LOOP", "2 Meters");
@@ -112,6 +132,8 @@ TEST_F(WindowTest, CatalogueChangeLeavesATypedGainInForce)
     Choose("cboSystemOneAntenna(2)", "2 Meters");
     Find<QRadioButton>("optAntenna(0)").click();
     Paste("txtAntennaGain", "9.5");
+    Window().ReloadAntennas("HALO");
+    Find<QRadioButton>("optAntenna(1)").click(); // the lists are back, and the typed gain counts until a choice
     folder.Put("Antennas/HALO.DAT", "[LOOP]\nGainType=dBd\nGain2=70\n");
     Window().ReloadAntennas("HALO");
     EXPECT_EQ(systems.Data[engine::SystemId::One].AntennaGain, 9.5F);

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 
 #include <string_view>
@@ -81,7 +82,12 @@ TEST(MessageNotifier, BelongsToTheDialogThatIsOpenElseToItsOwner)
     inform();
     dialog.open();
     inform();
-    EXPECT_EQ(parents, (QList<QObject*>{&owner, &dialog}));
+    dialog.close();
+    QDialog beside;
+    beside.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&beside));
+    inform();
+    EXPECT_EQ(parents, (QList<QObject*>{&owner, &dialog, &beside}));
 }
 
 TEST(MessageNotifier, TextsAreUtf8)
