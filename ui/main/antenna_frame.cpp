@@ -206,9 +206,11 @@ void AntennaFrame::FollowGain()
     const std::string gainType =
         Work().Catalogue().LoadAntennaGainType(maker, m_lists[Model]->ChosenName().toStdString());
     const float dBd = engine::GainToDBd(GainOfBand(), gainType);
-    // A gain that was typed since is the user's. What stays as it was asks for no computation.
-    const bool isInForce = Data().AntennaGain == m_listGain;
-    if (!isInForce || (dBd == m_listGain && gainType == Data().GainType)) {
+    if (Data().AntennaGain != m_listGain) {
+        return; // a gain that was typed since is the user's
+    }
+    if (dBd == m_listGain && gainType == Data().GainType) {
+        m_lists[Band]->ClearMark(); // in force as it is, which asks for no computation
         return;
     }
     const auto follow = [&] {
@@ -219,6 +221,7 @@ void AntennaFrame::FollowGain()
     if (Work().Attempt(System(), follow)) {
         m_lists[Band]->ClearMark();
     } else {
+        m_listGain = Data().AntennaGain; // put back with the record, which goes on to follow
         m_lists[Band]->Mark(TooLarge(m_lists[Band]->currentText()));
     }
 }

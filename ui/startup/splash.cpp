@@ -1,5 +1,6 @@
 #include "ui/startup/splash.h"
 
+#include "ui/platform/virtual_keys.h"
 #include "ui/startup/notice_label.h"
 #include "ui/startup/notices.h"
 #include "ui/startup/polar_picture.h"
@@ -55,23 +56,6 @@ QuietLabel* AddTitle(QWidget* parent)
     label->setFont(SansSerif(ScaledFont(kTitleFactor, QFont::Bold)));
     label->setText(kTitle);
     return label;
-}
-
-/// Alone, these keys are pressed on the way to something that is not meant for this window.
-bool IsModifier(const QKeyEvent& event)
-{
-    switch (event.key()) {
-    case Qt::Key_Shift:
-    case Qt::Key_Control:
-    case Qt::Key_Alt:
-    case Qt::Key_AltGr:
-    case Qt::Key_Meta:
-    case Qt::Key_Super_L:
-    case Qt::Key_Super_R:
-        return true;
-    default:
-        return false;
-    }
 }
 
 } // namespace
@@ -157,7 +141,8 @@ bool Splash::event(QEvent* event)
 
 void Splash::keyPressEvent(QKeyEvent* event)
 {
-    if (!IsModifier(*event)) {
+    // Alone, a modifier is on the way to something that is not meant for this window.
+    if (!IsModifierAlone(*event)) {
         Unload();
     }
 }

@@ -2,6 +2,9 @@
 
 #include <QRadioButton>
 
+#include <string>
+#include <utility>
+
 namespace quillon::ui {
 namespace {
 
@@ -97,6 +100,21 @@ TEST_P(CatalogueChange, OfTheGainLeavesTheCableAsItIs)
     Change("HALO", "[LOOP]\nGainType=dBd\nGain2=70\n");
     EXPECT_EQ(Data().AntennaGain, 7.0F);
     EXPECT_EQ(Data().CoaxLoss, loss);
+}
+
+TEST_P(CatalogueChange, GainThatCannotBeComputedIsMarkedUntilAGoodOneComes)
+{
+    Paste(Own("txtOutputPower"), "2e38");
+    ChooseAntenna("HALO", "LOOP", "2 Meters");
+    for (const auto& [tenths, gain] : {std::pair{"5", 0.5F}, std::pair{"10", 1.0F}}) {
+        const float before = Data().AntennaGain;
+        Change("HALO", "[LOOP]\nGainType=dBd\nGain2=70\n"); // 5.012 times the power is beyond a float
+        EXPECT_EQ(Data().AntennaGain, before);
+        EXPECT_TRUE(IsMarked(Bands()));
+        Change("HALO", std::string("[LOOP]\nGainType=dBd\nGain2=") + tenths + "\n");
+        EXPECT_EQ(Data().AntennaGain, gain);
+        EXPECT_FALSE(IsMarked(Bands()));
+    }
 }
 
 TEST_P(CatalogueChange, WithoutANewGainComputesNothing)
