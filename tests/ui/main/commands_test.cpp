@@ -86,6 +86,11 @@ TEST_F(WindowTest, CommandButtonsStandInReadingOrderWithTheWayOutApart)
         EXPECT_LT(buttons[next - 1]->geometry().right(), buttons[next]->geometry().left());
         EXPECT_EQ(buttons[next - 1]->width(), buttons[next]->width());
     }
+    const auto gapBefore = [&](qsizetype index) {
+        return buttons[index]->geometry().left() - buttons[index - 1]->geometry().right();
+    };
+    EXPECT_GT(gapBefore(buttons.size() - 1), 2 * gapBefore(1));
+    EXPECT_EQ(buttons.first()->geometry().left(), Find("FrameControls").contentsRect().left());
     EXPECT_EQ(buttons.last()->geometry().right(), Find("FrameControls").contentsRect().right());
 }
 
