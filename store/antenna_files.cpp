@@ -107,7 +107,9 @@ std::vector<std::string> AntennaFiles::Models(std::string_view brand) const
 
 bool AntennaFiles::BrandFileExists(std::string_view brand) const
 {
-    return FileNameFault(brand) == NameFault::None && NameExists(ResolveCase(m_folder.AntennaFile(brand)));
+    FileCalls& calls = m_store.Calls();
+    return FileNameFault(brand) == NameFault::None &&
+           NameExists(calls, ResolveCase(calls, m_folder.AntennaFile(brand)));
 }
 
 bool AntennaFiles::CreateBrandFile(std::string_view brand)
