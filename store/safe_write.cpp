@@ -42,6 +42,13 @@ bool SyncFolder(FileCalls& calls, int descriptor)
     return Sync(calls, descriptor) || errno == EINVAL;
 }
 
+std::filesystem::path FolderOf(const std::filesystem::path& file)
+{
+    return file.has_parent_path() ? file.parent_path() : ".";
+}
+
+constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
 bool RemoveIfThere(FileCalls& calls, const std::string& path)
 {
     return calls.Unlink(path.c_str()) == 0 || errno == ENOENT;
@@ -54,6 +61,11 @@ bool WriteNewFile(FileCalls& calls, const std::string& path, std::string_view te
     OpenFile file(calls, path.c_str(), kFlags, mode.value_or(kNewFileMode));
     return file && WriteAll(calls, file.Descriptor(), text) && (!mode || calls.Fchmod(file.Descriptor(), *mode) == 0) &&
            Sync(calls, file.Descriptor()) && file.Close();
+}
+
+[[noreturn]] void ThrowSystemError(const std::filesystem::path& file)
+{
+    throw std::system_error(errno, std::generic_category(), file.string());
 }
 
 } // namespace
@@ -75,8 +87,7 @@ bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::strin
         return false;
     }
     const std::string temporary = target->parent_path() / ("." + target->filename().string() + ".tmp");
-    const std::filesystem::path folderPath = target->has_parent_path() ? target->parent_path() : ".";
-    const OpenFile folder(calls, folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const OpenFile folder(calls, FolderOf(*target).c_str(), kFolderFlags);
     if (!folder || !RemoveIfThere(calls, temporary)) {
         return false;
     }
@@ -89,9 +100,19 @@ bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::strin
 
 void CreateEmptyFile(FileCalls& calls, const std::filesystem::path& file)
 {
+    const OpenFile folder(calls, FolderOf(file).c_str(), kFolderFlags);
+    if (!folder) {
+        ThrowSystemError(file);
+    }
     OpenFile created(calls, file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
-    if (!created || !created.Close()) {
-        throw std::system_error(errno, std::generic_category(), file.string());
+    if (!created) {
+        ThrowSystemError(file);
+    }
+    if (!Sync(calls, created.Descriptor()) || !created.Close() || !SyncFolder(calls, folder.Descriptor())) {
+        const int error = errno;
+        RemoveIfThere(calls, file);
+        errno = error;
+        ThrowSystemError(file);
     }
 }
 

@@ -14,7 +14,8 @@ namespace quillon::store {
 ///         file stands, complete, but the system reports that the folder could not be brought to the disk.
 [[nodiscard]] bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text);
 
-/// Creates an empty file. @throws std::system_error when it cannot be created or something stands there already.
+/// Creates an empty file and brings it to the disk, or leaves none. @throws std::system_error when it cannot be created
+/// or something stands there already.
 void CreateEmptyFile(FileCalls& calls, const std::filesystem::path& file);
 
 } // namespace quillon::store

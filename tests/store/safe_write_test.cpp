@@ -321,6 +321,25 @@ TEST(CreateEmptyFile, CreatesTheFile)
     EXPECT_EQ(folder.Get("f.dat"), "");
 }
 
+TEST(CreateEmptyFile, BringsFileAndFolderToTheDisk)
+{
+    const support::TempFolder folder;
+    FailingCalls calls;
+    CreateEmptyFile(calls, folder / "f.dat");
+    EXPECT_EQ(calls.Made(), (Names{"open", "open", "fsync", "close", "fsync", "close"}));
+}
+
+TEST(CreateEmptyFile, LeavesNoFileWhenACallFails)
+{
+    const support::TempFolder folder;
+    FailingCalls calls;
+    for (int number = 1; number <= 5; ++number) {
+        calls.FailAt(number, EIO);
+        EXPECT_THROW(CreateEmptyFile(calls, folder / "f.dat"), std::system_error) << number;
+        EXPECT_TRUE(folder.Names().empty()) << number;
+    }
+}
+
 TEST(CreateEmptyFile, ThrowsInAMissingFolder)
 {
     support::TempFolder folder;
