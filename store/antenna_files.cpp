@@ -107,9 +107,7 @@ std::vector<std::string> AntennaFiles::Models(std::string_view brand) const
 
 bool AntennaFiles::BrandFileExists(std::string_view brand) const
 {
-    FileCalls& calls = m_store.Calls();
-    return FileNameFault(brand) == NameFault::None &&
-           NameExists(calls, ResolveCase(calls, m_folder.AntennaFile(brand)));
+    return FileNameFault(brand) == NameFault::None && NameExists(ResolveCase(m_folder.AntennaFile(brand)));
 }
 
 bool AntennaFiles::CreateBrandFile(std::string_view brand)

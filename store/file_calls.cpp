@@ -2,9 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <dirent.h>
 #include <fcntl.h>
-#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -28,11 +26,6 @@ ssize_t FileCalls::Write(int descriptor, const void* buffer, std::size_t length)
 int FileCalls::Stat(const char* path, struct stat* status)
 {
     return ::stat(path, status);
-}
-
-int FileCalls::Lstat(const char* path, struct stat* status)
-{
-    return ::lstat(path, status);
 }
 
 int FileCalls::Fstat(int descriptor, struct stat* status)
@@ -68,30 +61,6 @@ int FileCalls::Unlink(const char* path)
 int FileCalls::MayWrite(const char* path)
 {
     return ::faccessat(AT_FDCWD, path, W_OK, AT_EACCESS);
-}
-
-ssize_t FileCalls::ReadLink(const char* path, char* buffer, std::size_t length)
-{
-    return ::readlink(path, buffer, length);
-}
-
-int FileCalls::ListFolder(const char* path, std::vector<FolderEntry>& entries)
-{
-    DIR* const folder = ::opendir(path);
-    if (folder == nullptr) {
-        return -1;
-    }
-    errno = 0; // only this tells the end of the folder from an error
-    while (const dirent* entry = ::readdir(folder)) {
-        const std::string_view name(entry->d_name);
-        if (name != "." && name != "..") {
-            entries.push_back({std::string(name), entry->d_type});
-        }
-    }
-    const int error = errno;
-    ::closedir(folder);
-    errno = error;
-    return error == 0 ? 0 : -1;
 }
 
 bool OpenFile::Close()

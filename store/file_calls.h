@@ -1,19 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
-#include <vector>
 
 namespace quillon::store {
-
-/// One name in a folder.
-struct FolderEntry
-{
-    std::string name;
-    unsigned char type; ///< DT_DIR, DT_LNK, ...; DT_UNKNOWN where the file system does not tell
-};
 
 /// The system's calls on files, as they are. One place to step in: tests make each of them fail in turn.
 class FileCalls
@@ -25,8 +16,6 @@ public:
     virtual ssize_t Read(int descriptor, void* buffer, std::size_t length);
     virtual ssize_t Write(int descriptor, const void* buffer, std::size_t length);
     virtual int Stat(const char* path, struct stat* status);
-    /// As Stat, of a link itself.
-    virtual int Lstat(const char* path, struct stat* status);
     virtual int Fstat(int descriptor, struct stat* status);
     virtual int Fchmod(int descriptor, mode_t mode);
     virtual int Fsync(int descriptor);
@@ -35,9 +24,6 @@ public:
     virtual int Unlink(const char* path);
     /// 0 when the program may write the file.
     virtual int MayWrite(const char* path);
-    virtual ssize_t ReadLink(const char* path, char* buffer, std::size_t length);
-    /// All names of a folder but "." and "..", in no order. @return 0 when the list is whole.
-    virtual int ListFolder(const char* path, std::vector<FolderEntry>& entries);
 };
 
 /// An open file; closed at the latest when the object goes.

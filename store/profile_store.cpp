@@ -64,7 +64,7 @@ bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& ed
 
 void ProfileStore::CreateIfMissing(const std::filesystem::path& file)
 {
-    if (!NameExists(m_calls, ResolveCase(m_calls, file))) {
+    if (!NameExists(ResolveCase(file))) {
         CreateEmptyFile(m_calls, file);
     }
 }
@@ -75,7 +75,7 @@ ProfileStore::Location ProfileStore::Locate(const std::filesystem::path& file) c
     if (status.state != FileState::Missing) {
         return {file.string(), status};
     }
-    const std::filesystem::path spelled = ResolveCase(m_calls, file);
+    const std::filesystem::path spelled = ResolveCase(file);
     return {spelled.string(), InspectFile(m_calls, spelled.c_str())};
 }
 

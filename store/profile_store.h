@@ -35,9 +35,6 @@ public:
     /// @return false when the file could not be written; it then stands as before.
     bool Edit(const std::filesystem::path& file, const ProfileEdit& edit);
 
-    /// The calls that all files are reached through.
-    [[nodiscard]] FileCalls& Calls() const noexcept { return m_calls; }
-
     /// Creates a file empty unless its name stands in the folder. @throws std::system_error when it cannot be created.
     void CreateIfMissing(const std::filesystem::path& file);
 

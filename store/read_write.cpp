@@ -5,6 +5,7 @@
 
 #include <array>
 #include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace quillon::store {
@@ -14,13 +15,14 @@ constexpr std::size_t kReadBuffer = 255;
 constexpr std::size_t kLongestText = 255;
 
 /// What a listing of the path finds: the file of that name, or for a folder's own path any file in it.
-bool FindsFile(FileCalls& calls, const std::filesystem::path& path)
+bool FindsFile(const std::filesystem::path& path)
 {
     if (!path.has_filename()) {
-        return !ListFiles(calls, path).empty();
+        return !ListFiles(path).empty();
     }
-    const std::filesystem::path spelled = ResolveCase(calls, path);
-    return NameExists(calls, spelled) && !IsFolder(calls, spelled);
+    const std::filesystem::path spelled = ResolveCase(path);
+    std::error_code error;
+    return NameExists(spelled) && !std::filesystem::is_directory(spelled, error);
 }
 
 } // namespace
@@ -36,7 +38,7 @@ bool ReadWrite::DataFileCheck(std::string_view name)
 {
     const std::filesystem::path path = m_folder.DataSetPath(name);
     m_dataFilePath = path.string();
-    if (FindsFile(m_store.Calls(), path)) {
+    if (FindsFile(path)) {
         return true;
     }
     m_notifier.Inform("Data file " + m_dataFilePath + " is missing or corrupt.", "Data File Missing");

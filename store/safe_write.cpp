@@ -72,7 +72,7 @@ bool WriteNewFile(FileCalls& calls, const std::string& path, std::string_view te
 
 bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text)
 {
-    const std::optional<std::filesystem::path> target = FollowLinks(calls, file);
+    const std::optional<std::filesystem::path> target = FollowLinks(file);
     if (!target) {
         return false;
     }
