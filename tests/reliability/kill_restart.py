@@ -1,0 +1,241 @@
+#!/usr/bin/env python3
+"""Kills the program while it is worked, and starts it again: kill_restart.py BUILD_FOLDER --count N --seed S
+
+Each round starts the program on the folder that the round before has left, loads a pair, saves pairs and edits antennas by
+keys, and ends with a SIGKILL: at any moment of the start, or up to some milliseconds after a key, which is about as long as
+a save takes. The program has to start as if nothing had been, and what the user has seen to be saved has to be there: a
+save counts as seen once its dialog has closed.
+"""
+
+import argparse
+import contextlib
+import multiprocessing
+import os
+import pathlib
+import queue
+import random
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+from kill_restart_display import Display, display
+from kill_restart_files import FIRST_PAIR, MODEL, Expected
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+MAIN = "ERP / Attenuation Calculator"
+SPLASH = "Quillon"
+LOAD = "Load an Antenna System"
+SAVE = "Save Current Antenna System"
+UPDATE = "Save Antenna System"
+EDITOR = "Manage Antenna Database"
+
+ROUNDS_PER_FOLDER = 25
+START_LIMIT = 20  # seconds, on a machine that does much else
+ANSWER_LIMIT = 20
+LONGEST_SAVE = 0.012  # seconds
+LONGEST_START = 0.4
+
+KINDS = ("no start", "stale lock", "lost save", "torn file", "changed file", "stray file", "no answer")
+
+
+class Killed(Exception):
+    """The round has come to its kill."""
+
+
+class NotSeen(Exception):
+    """What the user would wait for did not come."""
+
+
+class Session:
+    """One run of the program, from its start to its kill."""
+
+    def __init__(self, screen, program, settings, kill_at, chance):
+        self._screen = screen
+        self._chance = chance
+        self._keys_left = kill_at
+        self.process = subprocess.Popen([program], env=settings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+
+    def wait_for(self, title, limit=ANSWER_LIMIT, otherwise="no answer"):
+        """Waits until a window has the keyboard."""
+        deadline = time.monotonic() + limit
+        while self._screen.focused() != title:
+            if self.process.poll() is not None:
+                raise NotSeen("stale lock" if self.process.returncode == 0 else f"no start: {self.process.returncode}")
+            if time.monotonic() > deadline:
+                raise NotSeen(f'{otherwise}: waited in vain for "{title}" among {self._screen.titles()}')
+            time.sleep(0.001)
+
+    def start(self):
+        self.wait_for(SPLASH, START_LIMIT, "no start")
+        self._screen.press("Escape")
+        self.wait_for(MAIN, START_LIMIT, "no start")
+
+    def press(self, *keys):
+        for key in keys:
+            self._screen.press(key)
+
+    def type(self, text):
+        self._screen.type(text)
+
+    def save_key(self, *keys):
+        """Presses keys that make the program save; the kill may come now."""
+        self.press(*keys)
+        self._keys_left -= 1
+        if self._keys_left == 0:
+            time.sleep(self._chance.uniform(0, LONGEST_SAVE))
+            raise Killed
+
+    def load(self):
+        self.press("Control_L o")
+        self.wait_for(LOAD)
+        self.press("Tab", "Return")
+        self.wait_for(MAIN)
+
+    def set_power(self, power):
+        """Types into the first box, which has the keyboard from the start."""
+        self.press(*["Delete", "BackSpace"] * 4)
+        self.type(power)
+
+    def save_pair(self, name, power, expected):
+        exists = name == expected.last_pair()
+        self.set_power(power)
+        self.press("Control_L s")
+        self.wait_for(SAVE)
+        self.type(name)
+        self.press("Tab")
+        expected.begin_pair(name, power)
+        if exists:
+            self.press("Return")
+            self.wait_for(UPDATE)
+            self.save_key("Left", "Return")
+            self.wait_for(SAVE)
+        else:
+            self.save_key("Return")
+        self.press("Return")
+        self.wait_for(MAIN)
+        expected.end_pair()
+
+    def edit_antennas(self, maker, expected):
+        """Adds a maker, a model, and a band of the model."""
+        self.press("Control_L m")
+        self.wait_for(EDITOR)
+        expected.begin_maker(maker)
+        self.press("Tab", "Return")
+        self.type(maker)
+        self.save_key("Return")
+        self.type(MODEL)
+        self.save_key("Return")
+        self.press("Return", "Tab", "Tab", "Tab", "Tab", "space", "Shift_L Tab")
+        self.save_key("Return")
+        self.press("Escape")
+        self.wait_for(MAIN)
+        expected.end_maker(maker)
+
+
+def work(session, expected, number):
+    """What each round does until its kill."""
+    session.load()
+    session.save_pair(f"pair{number}", str(200 + number), expected)
+    session.save_pair(f"pair{number}", str(300 + number), expected)
+    session.edit_antennas(f"maker{number}", expected)
+
+
+def run_round(screen, program, settings, expected, number, chance):
+    """One start and one kill. Returns what was found wrong."""
+    kinds = 6  # the saves of a round, and the start
+    session = Session(screen, program, settings, chance.randrange(kinds), chance)
+    findings = []
+    try:
+        if session._keys_left == 0:
+            with contextlib.suppress(subprocess.TimeoutExpired):
+                session.process.wait(chance.uniform(0, LONGEST_START))
+        else:
+            session.start()
+            findings += expected.check_strays()
+            work(session, expected, number)
+    except Killed:
+        pass
+    except NotSeen as missing:
+        findings.append(str(missing))
+    session.kill()
+    deadline = time.monotonic() + ANSWER_LIMIT
+    while screen.titles() and time.monotonic() < deadline:
+        time.sleep(0.001)
+    return findings + expected.check_saves()
+
+
+def fresh_folder(program, folder):
+    """Lays out a program folder as it is installed. Returns what is expected of it."""
+    shutil.rmtree(folder, ignore_errors=True)
+    subprocess.run([ROOT / "scripts" / "lay-out-program-folder.sh", ROOT / "data", folder], check=True)
+    shutil.copy2(program, folder)
+    return Expected(folder)
+
+
+def run_worker(program, seed, numbers, results):
+    """Runs some rounds on a display of its own, which ends with it."""
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    with display() as name, tempfile.TemporaryDirectory(prefix="quillon-kill-") as home:
+        settings = {"PATH": os.environ["PATH"], "DISPLAY": name, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
+                    "DBUS_SESSION_BUS_ADDRESS": "disabled:", "XDG_RUNTIME_DIR": home, "HOME": home}
+        folder = pathlib.Path(home) / "program folder"
+        screen = Display(name)
+        expected = None
+        for place, number in enumerate(numbers):
+            if place % ROUNDS_PER_FOLDER == 0 or expected is None:
+                expected = fresh_folder(program, folder)
+            findings = run_round(screen, folder / program.name, settings, expected, number % 1000,
+                                 random.Random(f"{seed} {number}"))
+            if findings:
+                expected = None
+            results.put((number, findings))
+
+
+def gather(workers, results, count):
+    """Yields what each round has found, as it comes."""
+    for _ in range(count):
+        while True:
+            try:
+                yield results.get(timeout=1)
+                break
+            except queue.Empty:
+                if any(worker.exitcode for worker in workers):
+                    sys.exit("A worker has ended before its time.")
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("build", type=pathlib.Path)
+    parser.add_argument("--count", type=int, required=True)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--workers", type=int, default=2)
+    arguments = parser.parse_args()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    program = arguments.build / "program" / "Quillon"
+    results = multiprocessing.Queue()
+    shares = [range(first, arguments.count, arguments.workers) for first in range(arguments.workers)]
+    workers = [multiprocessing.Process(target=run_worker, args=(program, arguments.seed, share, results), daemon=True)
+               for share in shares]
+    for worker in workers:
+        worker.start()
+    counts = dict.fromkeys(KINDS, 0)
+    for number, findings in gather(workers, results, arguments.count):
+        for finding in findings:
+            print(f"seed {arguments.seed}, round {number}: {finding}", flush=True)
+            counts[next(kind for kind in KINDS if finding.startswith(kind))] += 1
+    for worker in workers:
+        worker.join()
+    print(f"seed {arguments.seed}: {arguments.count:,} kills, " +
+          ", ".join(f"{count} x {kind}" for kind, count in counts.items()))
+    return 1 if any(counts.values()) else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
