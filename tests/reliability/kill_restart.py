@@ -10,7 +10,6 @@ save counts as seen once its dialog has closed.
 import argparse
 import contextlib
 import multiprocessing
-import os
 import pathlib
 import queue
 import random
@@ -22,19 +21,11 @@ import tempfile
 import time
 
 from kill_restart_display import Display, display
-from kill_restart_files import FIRST_PAIR, MODEL, Expected
-
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-MAIN = "ERP / Attenuation Calculator"
-SPLASH = "Quillon"
-LOAD = "Load an Antenna System"
-SAVE = "Save Current Antenna System"
-UPDATE = "Save Antenna System"
-EDITOR = "Manage Antenna Database"
+from kill_restart_files import MODEL, Expected
+from kill_restart_session import EDITOR, MAIN, ROOT, SAVE, UPDATE, NotSeen, Session, settings_for
 
 ROUNDS_PER_FOLDER = 25
-START_LIMIT = 20  # seconds, on a machine that does much else
-ANSWER_LIMIT = 20
+SAVES_PER_ROUND = 5
 LONGEST_SAVE = 0.012  # seconds
 LONGEST_START = 0.4
 
@@ -45,63 +36,22 @@ class Killed(Exception):
     """The round has come to its kill."""
 
 
-class NotSeen(Exception):
-    """What the user would wait for did not come."""
-
-
-class Session:
-    """One run of the program, from its start to its kill."""
+class KilledSession(Session):
+    """A session that ends at one of its saves."""
 
     def __init__(self, screen, program, settings, kill_at, chance):
-        self._screen = screen
+        """kill_at: number of the save, from 1"""
+        super().__init__(screen, program, settings)
         self._chance = chance
-        self._keys_left = kill_at
-        self.process = subprocess.Popen([program], env=settings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-
-    def kill(self):
-        self.process.kill()
-        self.process.wait()
-
-    def wait_for(self, title, limit=ANSWER_LIMIT, otherwise="no answer"):
-        """Waits until a window has the keyboard."""
-        deadline = time.monotonic() + limit
-        while self._screen.focused() != title:
-            if self.process.poll() is not None:
-                raise NotSeen("stale lock" if self.process.returncode == 0 else f"no start: {self.process.returncode}")
-            if time.monotonic() > deadline:
-                raise NotSeen(f'{otherwise}: waited in vain for "{title}" among {self._screen.titles()}')
-            time.sleep(0.001)
-
-    def start(self):
-        self.wait_for(SPLASH, START_LIMIT, "no start")
-        self._screen.press("Escape")
-        self.wait_for(MAIN, START_LIMIT, "no start")
-
-    def press(self, *keys):
-        for key in keys:
-            self._screen.press(key)
-
-    def type(self, text):
-        self._screen.type(text)
+        self._saves_left = kill_at
 
     def save_key(self, *keys):
         """Presses keys that make the program save; the kill may come now."""
         self.press(*keys)
-        self._keys_left -= 1
-        if self._keys_left == 0:
+        self._saves_left -= 1
+        if self._saves_left == 0:
             time.sleep(self._chance.uniform(0, LONGEST_SAVE))
             raise Killed
-
-    def load(self):
-        self.press("Control_L o")
-        self.wait_for(LOAD)
-        self.press("Tab", "Return")
-        self.wait_for(MAIN)
-
-    def set_power(self, power):
-        """Types into the first box, which has the keyboard from the start."""
-        self.press(*["Delete", "BackSpace"] * 4)
-        self.type(power)
 
     def save_pair(self, name, power, expected):
         exists = name == expected.last_pair()
@@ -149,11 +99,11 @@ def work(session, expected, number):
 
 def run_round(screen, program, settings, expected, number, chance):
     """One start and one kill. Returns what was found wrong."""
-    kinds = 6  # the saves of a round, and the start
-    session = Session(screen, program, settings, chance.randrange(kinds), chance)
+    kill_at = chance.randrange(SAVES_PER_ROUND + 1)
+    session = KilledSession(screen, program, settings, kill_at, chance)
     findings = []
     try:
-        if session._keys_left == 0:
+        if kill_at == 0:
             with contextlib.suppress(subprocess.TimeoutExpired):
                 session.process.wait(chance.uniform(0, LONGEST_START))
         else:
@@ -165,9 +115,6 @@ def run_round(screen, program, settings, expected, number, chance):
     except NotSeen as missing:
         findings.append(str(missing))
     session.kill()
-    deadline = time.monotonic() + ANSWER_LIMIT
-    while screen.titles() and time.monotonic() < deadline:
-        time.sleep(0.001)
     return findings + expected.check_saves()
 
 
@@ -183,15 +130,13 @@ def run_worker(program, seed, numbers, results):
     """Runs some rounds on a display of its own, which ends with it."""
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     with display() as name, tempfile.TemporaryDirectory(prefix="quillon-kill-") as home:
-        settings = {"PATH": os.environ["PATH"], "DISPLAY": name, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
-                    "DBUS_SESSION_BUS_ADDRESS": "disabled:", "XDG_RUNTIME_DIR": home, "HOME": home}
         folder = pathlib.Path(home) / "program folder"
         screen = Display(name)
         expected = None
         for place, number in enumerate(numbers):
             if place % ROUNDS_PER_FOLDER == 0 or expected is None:
                 expected = fresh_folder(program, folder)
-            findings = run_round(screen, folder / program.name, settings, expected, number % 1000,
+            findings = run_round(screen, folder / program.name, settings_for(name, home), expected, number % 1000,
                                  random.Random(f"{seed} {number}"))
             if findings:
                 expected = None

@@ -1,0 +1,80 @@
+"""The program on a display, worked by keys; what it does is seen by which window has the keyboard."""
+
+import os
+import pathlib
+import subprocess
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+MAIN = "ERP / Attenuation Calculator"
+SPLASH = "Quillon"
+LOAD = "Load an Antenna System"
+SAVE = "Save Current Antenna System"
+UPDATE = "Save Antenna System"
+EDITOR = "Manage Antenna Database"
+
+START_LIMIT = 20  # seconds, on a machine that does much else
+ANSWER_LIMIT = 20
+
+
+class NotSeen(Exception):
+    """What the user would wait for did not come."""
+
+
+class Session:
+    """One run of the program."""
+
+    def __init__(self, screen, program, settings):
+        self._screen = screen
+        self.process = subprocess.Popen([program], env=settings, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def kill(self):
+        """Ends the run, and waits until nothing of it is on the display."""
+        self.process.kill()
+        self.process.wait()
+        deadline = time.monotonic() + ANSWER_LIMIT
+        while self._screen.titles() and time.monotonic() < deadline:
+            time.sleep(0.001)
+
+    def wait_until(self, what, condition, limit=ANSWER_LIMIT, otherwise="no answer"):
+        deadline = time.monotonic() + limit
+        while not condition():
+            if self.process.poll() is not None:
+                raise NotSeen("stale lock" if self.process.returncode == 0 else f"no start: {self.process.returncode}")
+            if time.monotonic() > deadline:
+                raise NotSeen(f"{otherwise}: waited in vain for {what} among {self._screen.titles()}")
+            time.sleep(0.001)
+
+    def wait_for(self, title, limit=ANSWER_LIMIT, otherwise="no answer"):
+        """Waits until a window has the keyboard."""
+        self.wait_until(f'"{title}"', lambda: self._screen.focused() == title, limit, otherwise)
+
+    def start(self):
+        self.wait_for(SPLASH, START_LIMIT, "no start")
+        self._screen.press("Escape")
+        self.wait_for(MAIN, START_LIMIT, "no start")
+
+    def press(self, *keys):
+        for key in keys:
+            self._screen.press(key)
+
+    def type(self, text):
+        self._screen.type(text)
+
+    def load(self):
+        """Loads the first pair of the list."""
+        self.press("Control_L o")
+        self.wait_for(LOAD)
+        self.press("Tab", "Return")
+        self.wait_for(MAIN)
+
+    def set_power(self, power):
+        """Types into the first box, which has the keyboard from the start."""
+        self.press(*["Delete", "BackSpace"] * 4)
+        self.type(power)
+
+
+def settings_for(display, home):
+    """What the program sees of the world around it: no session bus, whose services take longer to start than it does."""
+    return {"PATH": os.environ["PATH"], "DISPLAY": display, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
+            "DBUS_SESSION_BUS_ADDRESS": "disabled:", "XDG_RUNTIME_DIR": str(home), "HOME": str(home)}
