@@ -1,18 +1,17 @@
 """Saves in the windows, by keys, where nothing can be written and where there is room again."""
 
-import contextlib
-import os
-import shutil
 import subprocess
-import time
+import tempfile
 
 from full_disk_places import FullDisk, NoInodes, ReadOnly
 from kill_restart_display import Display, display
-from kill_restart_files import MAKER_STATES, MODEL, SYSTEMS, first_systems
-from kill_restart_session import EDITOR, LOAD, MAIN, SAVE, UPDATE, ROOT, NotSeen, Session
+from kill_restart_files import FIRST_PAIR, MAKER_STATES, MODEL, SYSTEMS, first_systems, parse
+from kill_restart_session import EDITOR, MAIN, ROOT, SAVE, UPDATE, NotSeen, Session, settings_for
 
 CLOSING = "Save Configured System?"
 MAKER = "aaa"  # the first of the list
+POWER = "250"
+NEW_PAIR = "newpair"
 NEW_MAKER = "newmaker"
 NEW_MODEL = "dish"
 
@@ -22,7 +21,7 @@ class Windows(Session):
 
     def wait_for_editors(self, count):
         """A message of the editor bears the editor's title."""
-        self.wait_until(f"{count} windows of the editor", lambda: self._screen.titles().count(EDITOR) == count)
+        self.wait_until(f"{count} windows titled {EDITOR}", lambda: self._screen.titles().count(EDITOR) == count)
         self.wait_for(EDITOR)
 
     def save(self, name, exists):
@@ -77,3 +76,98 @@ class Windows(Session):
     def leave_editor(self):
         self.press("Escape")
         self.wait_for(MAIN)
+
+
+def lay_out(folder, program):
+    """The program as it is installed, with a pair to begin with and a small maker."""
+    subprocess.run([ROOT / "scripts" / "lay-out-program-folder.sh", ROOT / "data", folder], check=True)
+    subprocess.run(["strip", "-o", folder / program.name, program], check=True)
+    (folder / SYSTEMS).write_bytes(first_systems())
+    (folder / "Antennas" / f"{MAKER}.DAT").write_bytes(MAKER_STATES[2])
+
+
+def data_of(folder):
+    """All files but the program, which is large and cannot change while it runs."""
+    return {path: path.read_bytes() for path in folder.rglob("*") if path.is_file() and path.name != "Quillon"}
+
+
+def value(file, section, key):
+    return (parse(file.read_bytes()) or {}).get(section, {}).get(key)
+
+
+def saves(folder):
+    """What can be saved: name, how, and whether it stands in the file."""
+    systems, maker = folder / SYSTEMS, folder / "Antennas" / f"{MAKER}.DAT"
+    return (
+        ("save over", lambda windows: windows.save(FIRST_PAIR, True),
+         lambda: value(systems, FIRST_PAIR, "System1XmitPower") == POWER),
+        ("save new", lambda windows: windows.save(NEW_PAIR, False),
+         lambda: value(systems, NEW_PAIR, "System1XmitPower") == POWER),
+        ("add maker", Windows.add_maker, (folder / "Antennas" / f"{NEW_MAKER}.DAT").exists),
+        ("add model", Windows.add_model, lambda: value(maker, NEW_MODEL, "GainType") == "dBd"),
+        ("save bands", Windows.save_bands, lambda: value(maker, MODEL, "Gain160") == "0"),
+    )
+
+
+def is_in_editor(name):
+    return name not in ("save over", "save new")
+
+
+def fail(windows, name, save):
+    """Saves in vain. Returns whether the user is told."""
+    if not is_in_editor(name):
+        save(windows)
+        return windows.asks_when_closed()
+    windows.open_editor()
+    save(windows)
+    windows.wait_for_editors(2)
+    windows.press("Return")
+    windows.wait_for_editors(1)
+    windows.leave_editor()
+    return True
+
+
+def succeed(windows, name, save):
+    if is_in_editor(name):
+        windows.open_editor()
+        save(windows)
+        windows.leave_editor()
+    else:
+        save(windows)
+
+
+def try_windows(place, windows):
+    """All saves in one run, first in vain, then with room. Yields what each was and what is wrong."""
+    windows.start()
+    windows.load()
+    windows.set_power(POWER)
+    before = data_of(place.folder)
+    place.spoil()
+    for name, save, _ in saves(place.folder):
+        if (place.name, name) == (FullDisk.name, "add maker"):
+            continue  # an empty file takes no room
+        findings = [] if fail(windows, name, save) else ["nothing told"]
+        if data_of(place.folder) != before:
+            findings.append("changed files")
+        yield f"{place.name}, {name}", findings
+    place.relieve()
+    for name, save, stands in saves(place.folder):
+        succeed(windows, name, save)
+        yield f"{place.name} relieved, {name}", [] if stands() else ["no success when there is room again"]
+
+
+def work_windows(build, work):
+    """The saves of the windows in every place. Yields what each was and what is wrong."""
+    program = build / "program" / "Quillon"
+    with display() as name, tempfile.TemporaryDirectory(prefix="quillon-full-home-") as home:
+        screen = Display(name)
+        for kind in (FullDisk, NoInodes, ReadOnly):
+            with kind(work / "disk").mounted() as place:
+                lay_out(place.folder, program)
+                windows = Windows(screen, place.folder / program.name, settings_for(name, home))
+                try:
+                    yield from try_windows(place, windows)
+                except NotSeen as missing:
+                    yield place.name, [str(missing)]
+                finally:
+                    windows.kill()
