@@ -1,5 +1,7 @@
 #include "app/program.h"
 
+#include "store/stale_files.h"
+
 #include <QApplication>
 
 namespace quillon {
@@ -10,6 +12,7 @@ Program::Program(const store::ProgramFolder& folder)
     , m_window({m_systems, m_hooks, m_notifier, m_catalogue})
     , m_dialogs({m_window, folder, m_catalogue, *m_store, m_notifier, m_printers, m_shell})
 {
+    store::RemoveStaleFiles(m_store->Calls(), folder);
     m_notifier.SetOwner(&m_window);
     QObject::connect(
         &m_window, &ui::Quillon::Unloaded, qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);

@@ -19,6 +19,8 @@ namespace quillon {
 class Program
 {
 public:
+    /// Also takes away what an earlier run left when it was killed while it wrote.
+    /// @param folder  in which no other copy of the program works.
     explicit Program(const store::ProgramFolder& folder);
 
     /// Runs the window's start-up sequence, shows the window and gives it the keyboard. Once per program.

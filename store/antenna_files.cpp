@@ -46,17 +46,16 @@ bool Contains(std::string_view text, std::string_view part)
     return std::search(text.begin(), text.end(), part.begin(), part.end(), isEqual) != text.end();
 }
 
-/// A maker's number of models as the index has it. A file that cannot be read for once looks empty, which would give
-/// the maker a new day of creation: an empty answer is asked for again.
-std::string ListedNumber(const INIManager& index, std::string_view section)
+std::optional<std::string> FirstWith(const INIManager& file, std::string_view part)
 {
-    std::string number = index.GetValue(section, kNumEntries, "");
-    return number.empty() ? index.GetValue(section, kNumEntries, "") : number;
+    const std::vector<std::string> models = file.GetAllSections(file.FileName());
+    const auto found = std::ranges::find_if(models, [part](const std::string& name) { return Contains(name, part); });
+    return found != models.end() ? std::optional(*found) : std::nullopt;
 }
 
 bool WriteIndex(INIManager& index, std::string_view section, std::size_t count, const std::string& date)
 {
-    if (ListedNumber(index, section).empty() &&
+    if (index.GetValue(section, kNumEntries, "").empty() &&
         !(index.CreateSection(section, index.FileName()) && index.WriteValue(section, kDateCreated, date))) {
         return false;
     }
@@ -99,15 +98,10 @@ std::optional<INIManager> AntennaFiles::OpenBrand(std::string_view brand) const
     return FileNameFault(brand) == NameFault::None ? Open(m_folder.AntennaFile(brand)) : std::nullopt;
 }
 
-std::vector<std::string> AntennaFiles::Models(std::string_view brand) const
-{
-    const std::optional<INIManager> file = OpenBrand(brand);
-    return file ? file->GetAllSections(file->FileName()) : std::vector<std::string>();
-}
-
 bool AntennaFiles::BrandFileExists(std::string_view brand) const
 {
-    return FileNameFault(brand) == NameFault::None && NameExists(ResolveCase(m_folder.AntennaFile(brand)));
+    return FileNameFault(brand) == NameFault::None &&
+           FindName(m_store.Calls(), m_folder.AntennaFile(brand)).state == NameState::There;
 }
 
 bool AntennaFiles::CreateBrandFile(std::string_view brand)
@@ -117,16 +111,20 @@ bool AntennaFiles::CreateBrandFile(std::string_view brand)
 
 std::optional<std::string> AntennaFiles::FirstModelWith(std::string_view brand, std::string_view model)
 {
-    const std::vector<std::string> models = Models(brand);
-    const auto found = std::ranges::find_if(models, [model](const std::string& name) { return Contains(name, model); });
-    return found != models.end() ? std::optional(*found) : std::nullopt;
+    const std::optional<INIManager> file = OpenBrand(brand);
+    return file ? FirstWith(*file, model) : std::nullopt;
 }
 
-bool AntennaFiles::AddModel(std::string_view brand, std::string_view model)
+bool AntennaFiles::AddModel(std::string_view brand, std::string_view model, IfModelFound ifFound)
 {
     std::optional<INIManager> file = OpenBrand(brand);
-    return file && EntryNameFault(ToUtf8(model)) == NameFault::None &&
-           file->WriteValue(model, kGainType, kGainTypeOfNewModels);
+    if (!file || EntryNameFault(ToUtf8(model)) != NameFault::None) {
+        return false;
+    }
+    ProfileBatch batch(m_store, file->FileName());
+    // A file that could not be read for once looks as if it had no models, and the user has not been asked.
+    const bool isAllowed = ifFound == IfModelFound::Replace || !FirstWith(*file, model);
+    return isAllowed && file->WriteValue(model, kGainType, kGainTypeOfNewModels) && batch.Commit();
 }
 
 bool AntennaFiles::SaveChanges(std::string_view brand, std::string_view model, const ModelFigures& figures)
@@ -145,15 +143,13 @@ bool AntennaFiles::SaveChanges(std::string_view brand, std::string_view model, c
 
 bool AntennaFiles::UpdateIndex(std::string_view brand, std::chrono::year_month_day today)
 {
-    std::size_t count = Models(brand).size();
-    if (count == 0) {
-        count = Models(brand).size(); // as with the index: it may have been unreadable for once
-    }
-    std::optional<INIManager> index = BrandFileExists(brand) ? Open(m_folder.AntennaIndex()) : std::nullopt;
+    const std::optional<INIManager> file = BrandFileExists(brand) ? OpenBrand(brand) : std::nullopt;
+    std::optional<INIManager> index = file ? Open(m_folder.AntennaIndex()) : std::nullopt;
     if (!index) {
         return false;
     }
     ProfileBatch batch(m_store, index->FileName());
+    const std::size_t count = file->GetAllSections(file->FileName()).size();
     return WriteIndex(*index, IndexSection(brand), count, DateText(today)) && batch.Commit();
 }
 

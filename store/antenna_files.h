@@ -38,6 +38,9 @@ struct ModelFigures
 /// @throws ArithmeticError when that does not fit 16 bits.
 [[nodiscard]] std::int16_t ToGainTenths(double decibels);
 
+/// What AddModel does when a maker has a model that FirstModelWith finds.
+enum class IfModelFound { Refuse, Replace };
+
 /// Writes the antenna catalogue and its index. Each command replaces each file that it changes once. It
 /// returns false for a file that cannot be written or a name that cannot be one: the file then stands as before, or,
 /// when nothing failed but to make it last, is new as a whole. What to ask the user first is the caller's:
@@ -61,8 +64,9 @@ public:
     [[nodiscard]] std::optional<std::string> FirstModelWith(std::string_view brand, std::string_view model);
 
     /// Adds a model whose gains are in dBd. Of one that exists the gain type is written anew, and the gains stay.
-    /// @param model  without EntryNameFault.
-    [[nodiscard]] bool AddModel(std::string_view brand, std::string_view model);
+    /// @param model    without EntryNameFault.
+    /// @param ifFound  Replace when the user has agreed to it.
+    [[nodiscard]] bool AddModel(std::string_view brand, std::string_view model, IfModelFound ifFound);
 
     /// Writes the gain type, and for each band its gain; the keys of bands that are not covered go.
     [[nodiscard]] bool SaveChanges(std::string_view brand, std::string_view model, const ModelFigures& figures);
@@ -76,7 +80,6 @@ public:
 private:
     [[nodiscard]] std::optional<INIManager> Open(const std::filesystem::path& file) const;
     [[nodiscard]] std::optional<INIManager> OpenBrand(std::string_view brand) const;
-    [[nodiscard]] std::vector<std::string> Models(std::string_view brand) const;
 
     ProgramFolder m_folder;
     ProfileStore& m_store;

@@ -69,7 +69,8 @@ std::string Catalogue::GetDataFileList(std::string_view kind) const
         return {};
     }
     std::string makers;
-    for (const std::string& file : ListFiles(kind == "Antennas" ? m_folder.AntennaFolder() : m_folder.CoaxFolder())) {
+    const std::filesystem::path folder = kind == "Antennas" ? m_folder.AntennaFolder() : m_folder.CoaxFolder();
+    for (const std::string& file : ListFiles(m_store->Calls(), folder)) {
         const std::size_t length = file.size() - std::min(file.size(), kPattern.size());
         const std::string_view maker = std::string_view(file).substr(0, length);
         const bool isMakerFile = EqualNames(std::string_view(file).substr(length), kPattern);

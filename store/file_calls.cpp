@@ -2,7 +2,10 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
+#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -26,6 +29,11 @@ ssize_t FileCalls::Write(int descriptor, const void* buffer, std::size_t length)
 int FileCalls::Stat(const char* path, struct stat* status)
 {
     return ::stat(path, status);
+}
+
+int FileCalls::Lstat(const char* path, struct stat* status)
+{
+    return ::lstat(path, status);
 }
 
 int FileCalls::Fstat(int descriptor, struct stat* status)
@@ -58,9 +66,31 @@ int FileCalls::Unlink(const char* path)
     return ::unlink(path);
 }
 
+ssize_t FileCalls::ReadLink(const char* path, char* buffer, std::size_t length)
+{
+    return ::readlink(path, buffer, length);
+}
+
 int FileCalls::MayWrite(const char* path)
 {
     return ::faccessat(AT_FDCWD, path, W_OK, AT_EACCESS);
+}
+
+int FileCalls::List(const char* path, std::vector<FolderEntry>& entries)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path), &::closedir);
+    if (!folder) {
+        return -1;
+    }
+    errno = 0; // the end of the folder looks like an error, but for this
+    while (const dirent* entry = ::readdir(folder.get())) {
+        const std::string_view name = &entry->d_name[0];
+        if (name != "." && name != "..") {
+            entries.push_back({std::string(name), entry->d_type});
+        }
+        errno = 0;
+    }
+    return errno == 0 ? 0 : -1;
 }
 
 bool OpenFile::Close()

@@ -3,9 +3,12 @@
 #include "store/profile_lines.h"
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <dirent.h>
 #include <functional>
 #include <numeric>
-#include <system_error>
 
 namespace quillon::store {
 namespace fs = std::filesystem;
@@ -15,16 +18,33 @@ namespace {
 /// As many as the system itself follows.
 constexpr int kMostLinks = 40;
 
-/// @param isWanted  tells of a directory entry whether it is to be listed.
-template <class Predicate>
-std::vector<std::string> ListNames(const fs::path& folder, const Predicate& isWanted)
+bool TellsOfNothing(int error)
 {
+    return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
+}
+
+NameState Look(FileCalls& calls, const fs::path& path)
+{
+    struct stat status = {};
+    if (calls.Lstat(path.c_str(), &status) == 0) {
+        return NameState::There;
+    }
+    return TellsOfNothing(errno) ? NameState::Missing : NameState::Unknown;
+}
+
+/// @param isWanted  tells of a folder's entry whether it is to be listed.
+/// @return names by character code, none for a missing folder; nothing at all for one that cannot be listed.
+template <class Predicate>
+std::optional<std::vector<std::string>> ListNames(FileCalls& calls, const fs::path& folder, const Predicate& isWanted)
+{
+    std::vector<FolderEntry> entries;
+    if (calls.List(folder.empty() ? "." : folder.c_str(), entries) != 0) {
+        return TellsOfNothing(errno) ? std::optional<std::vector<std::string>>(std::in_place) : std::nullopt;
+    }
     std::vector<std::string> names;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
-         !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        if (isWanted(*entry)) {
-            names.push_back(entry->path().filename().string());
+    for (FolderEntry& entry : entries) {
+        if (isWanted(entry)) {
+            names.push_back(std::move(entry.name));
         }
     }
     std::sort(names.begin(), names.end());
@@ -37,51 +57,60 @@ int Differences(const std::string& name, const std::string& other)
     return std::inner_product(name.begin(), name.end(), other.begin(), 0, std::plus<>(), std::not_equal_to<>());
 }
 
+bool IsFolder(FileCalls& calls, const fs::path& folder, const FolderEntry& entry)
+{
+    if (entry.type != DT_LNK && entry.type != DT_UNKNOWN) {
+        return entry.type == DT_DIR;
+    }
+    struct stat status = {};
+    return calls.Stat((folder / entry.name).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
 } // namespace
 
-bool NameExists(const fs::path& path)
+FoundName FindName(FileCalls& calls, const fs::path& path)
 {
-    std::error_code error;
-    return fs::exists(fs::symlink_status(path, error));
-}
-
-fs::path ResolveCase(const fs::path& path)
-{
-    if (!path.has_filename() || NameExists(path)) {
-        return path;
+    const NameState state = Look(calls, path);
+    if (state != NameState::Missing || !path.has_filename()) {
+        return {state, path};
     }
-    const fs::path folder = path.has_parent_path() ? ResolveCase(path.parent_path()) : fs::path();
+    const FoundName folder =
+        path.has_parent_path() ? FindName(calls, path.parent_path()) : FoundName{NameState::There, {}};
+    if (folder.state == NameState::Unknown) {
+        return {NameState::Unknown, path};
+    }
     const std::string name = path.filename().string();
-    const auto isSpelling = [&name](const fs::directory_entry& entry) {
-        return EqualNames(entry.path().filename().string(), name);
-    };
-    const std::vector<std::string> spellings = ListNames(folder, isSpelling);
-    const auto nearest = std::min_element(spellings.begin(), spellings.end(), [&name](const auto& a, const auto& b) {
+    const auto isSpelling = [&name](const FolderEntry& entry) { return EqualNames(entry.name, name); };
+    const auto spellings = ListNames(calls, folder.path, isSpelling);
+    if (!spellings) {
+        return {NameState::Unknown, path};
+    }
+    const auto nearest = std::min_element(spellings->begin(), spellings->end(), [&name](const auto& a, const auto& b) {
         return Differences(name, a) < Differences(name, b);
     });
-    return nearest == spellings.end() ? folder / name : folder / *nearest;
+    return nearest == spellings->end() ? FoundName{NameState::Missing, folder.path / name}
+                                       : FoundName{NameState::There, folder.path / *nearest};
 }
 
-std::optional<fs::path> FollowLinks(const fs::path& path)
+std::optional<fs::path> FollowLinks(FileCalls& calls, const fs::path& path)
 {
     fs::path target = path;
     for (int followed = 0; followed < kMostLinks; ++followed) {
-        std::error_code error;
-        const fs::path next = fs::read_symlink(target, error);
-        if (error) {
-            return target;
+        std::array<char, PATH_MAX> next{};
+        const ssize_t length = calls.ReadLink(target.c_str(), next.data(), next.size());
+        if (length < 0) {
+            const bool isNoLink = errno == EINVAL || TellsOfNothing(errno);
+            return isNoLink ? std::optional(target) : std::nullopt;
         }
-        target = target.parent_path() / next;
+        target = target.parent_path() / std::string(next.data(), static_cast<std::size_t>(length));
     }
     return std::nullopt;
 }
 
-std::vector<std::string> ListFiles(const fs::path& folder)
+std::vector<std::string> ListFiles(FileCalls& calls, const fs::path& folder)
 {
-    return ListNames(folder, [](const fs::directory_entry& entry) {
-        std::error_code error;
-        return !entry.is_directory(error);
-    });
+    const auto isFile = [&](const FolderEntry& entry) { return !IsFolder(calls, folder, entry); };
+    return ListNames(calls, folder, isFile).value_or(std::vector<std::string>());
 }
 
 } // namespace quillon::store

@@ -19,22 +19,19 @@ FileStatus StatusOf(const struct stat& status)
             {status.st_dev, status.st_ino, status.st_size, Nanoseconds(status.st_mtim), Nanoseconds(status.st_ctim)}};
 }
 
-/// Fills the buffer as far as the file goes. @return false on a read error.
+/// Fills the buffer. @return false on a read error, or when the file is cut meanwhile: somebody is writing it, and a
+/// part of it must not pass for the whole.
 bool FillFrom(FileCalls& calls, int descriptor, std::string& buffer)
 {
     std::size_t length = 0;
     while (length < buffer.size()) {
         const ssize_t count = calls.Read(descriptor, buffer.data() + length, buffer.size() - length);
-        if (count == 0) {
-            break;
-        }
         if (count > 0) {
             length += static_cast<std::size_t>(count);
-        } else if (errno != EINTR) {
+        } else if (count == 0 || errno != EINTR) {
             return false;
         }
     }
-    buffer.resize(length);
     return true;
 }
 

@@ -9,7 +9,8 @@ namespace quillon::store {
 
 /// While it lives, edits of one file through its store are gathered, and readers see them as if they were written.
 /// Commit replaces the file once, with the same bytes that writing key by key would leave; without it nothing is
-/// written. Edits are applied to the file as it stands at Commit, so a change made meanwhile from outside is kept.
+/// written. What was read meanwhile may have shaped the edits: when any file could not be read, Commit fails. Edits are
+/// applied to the file as it stands at Commit, so a change made meanwhile from outside is kept.
 class ProfileBatch
 {
 public:
@@ -19,7 +20,8 @@ public:
     ProfileBatch(const ProfileBatch&) = delete;
     ProfileBatch& operator=(const ProfileBatch&) = delete;
 
-    /// Ends the batch. @return false when the file could not be written; it then stands as before.
+    /// Ends the batch. @return false when the file could not be written, or a file could not be read since the batch
+    /// was opened; it then stands as before.
     [[nodiscard]] bool Commit();
 
 private:

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
+#include <system_error>
 #include <utility>
 
 namespace quillon::store {
@@ -41,16 +42,26 @@ const PrivateProfile& ProfileStore::Read(const std::filesystem::path& file)
     if (const auto batch = m_batches.find(location.path); batch != m_batches.end()) {
         return ReadInBatch(batch->second, location);
     }
-    if (location.status.state != FileState::Regular) {
+    if (location.status.state == FileState::Missing) {
         return m_nothing;
     }
     std::optional<Document> document = Take(location);
-    return document ? Hold(std::move(*document)) : m_nothing;
+    if (!document) {
+        SpoilBatches();
+        return m_nothing;
+    }
+    return Hold(std::move(*document));
 }
 
 bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& edit)
 {
     const Location location = Locate(file);
+    if (location.status.state == FileState::Refused) {
+        SpoilBatches();
+    }
+    if (location.status.state == FileState::Refused || IsSpoilt()) {
+        return false;
+    }
     const auto batch = m_batches.find(location.path);
     if (batch == m_batches.end()) {
         return Rewrite(location, {&edit, 1});
@@ -59,12 +70,16 @@ bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& ed
     if (batch->second.document) {
         Apply(batch->second.document->profile, edit);
     }
-    return location.status.state != FileState::Refused;
+    return true;
 }
 
 void ProfileStore::CreateIfMissing(const std::filesystem::path& file)
 {
-    if (!NameExists(ResolveCase(file))) {
+    const NameState state = FindName(m_calls, file).state;
+    if (state == NameState::Unknown) {
+        throw std::system_error(std::make_error_code(std::errc::io_error), file.string());
+    }
+    if (state == NameState::Missing) {
         CreateEmptyFile(m_calls, file);
     }
 }
@@ -75,12 +90,18 @@ ProfileStore::Location ProfileStore::Locate(const std::filesystem::path& file) c
     if (status.state != FileState::Missing) {
         return {file.string(), status};
     }
-    const std::filesystem::path spelled = ResolveCase(file);
-    return {spelled.string(), InspectFile(m_calls, spelled.c_str())};
+    const FoundName found = FindName(m_calls, file);
+    if (found.state == NameState::Unknown) {
+        return {file.string(), {FileState::Refused, {}}};
+    }
+    return {found.path.string(), InspectFile(m_calls, found.path.c_str())};
 }
 
 std::optional<ProfileStore::Document> ProfileStore::Take(const Location& location)
 {
+    if (location.status.state == FileState::Refused) {
+        return std::nullopt;
+    }
     Document document;
     const auto held = std::find_if(m_held.begin(), m_held.end(),
                                    [&location](const Document& candidate) { return candidate.path == location.path; });
@@ -114,7 +135,8 @@ const PrivateProfile& ProfileStore::Hold(Document document)
 
 const PrivateProfile& ProfileStore::ReadInBatch(Batch& batch, const Location& location)
 {
-    if (!batch.document || !batch.document->IsOf(location.status.stamp)) {
+    const bool isRefused = location.status.state == FileState::Refused;
+    if (isRefused || !batch.document || !batch.document->IsOf(location.status.stamp)) {
         batch.document = Take(location);
         for (const ProfileEdit& edit : batch.edits) {
             if (batch.document) {
@@ -122,7 +144,23 @@ const PrivateProfile& ProfileStore::ReadInBatch(Batch& batch, const Location& lo
             }
         }
     }
-    return batch.document ? batch.document->profile : m_nothing;
+    if (!batch.document) {
+        SpoilBatches();
+        return m_nothing;
+    }
+    return batch.document->profile;
+}
+
+void ProfileStore::SpoilBatches()
+{
+    for (auto& [path, batch] : m_batches) {
+        batch.isSpoilt = true;
+    }
+}
+
+bool ProfileStore::IsSpoilt() const
+{
+    return std::ranges::any_of(m_batches, [](const auto& item) { return item.second.isSpoilt; });
 }
 
 bool ProfileStore::Rewrite(const Location& location, std::span<const ProfileEdit> edits)
@@ -145,11 +183,13 @@ bool ProfileStore::Rewrite(const Location& location, std::span<const ProfileEdit
 
 std::string ProfileStore::BeginBatch(const std::filesystem::path& file)
 {
-    std::string path = Locate(file).path;
-    if (!m_batches.try_emplace(path).second) {
-        throw std::logic_error("a batch is open on " + path);
+    Location location = Locate(file);
+    const auto [batch, isNew] = m_batches.try_emplace(location.path);
+    if (!isNew) {
+        throw std::logic_error("a batch is open on " + location.path);
     }
-    return path;
+    batch->second.isSpoilt = location.status.state == FileState::Refused;
+    return std::move(location.path);
 }
 
 void ProfileStore::DropBatch(const std::string& path) noexcept
@@ -159,9 +199,10 @@ void ProfileStore::DropBatch(const std::string& path) noexcept
 
 bool ProfileStore::CommitBatch(const std::string& path)
 {
+    const bool isSpoilt = IsSpoilt();
     const std::vector<ProfileEdit> edits = std::move(m_batches.at(path).edits);
     m_batches.erase(path);
-    return Rewrite(Locate(path), edits);
+    return !isSpoilt && Rewrite(Locate(path), edits);
 }
 
 } // namespace quillon::store

@@ -16,6 +16,9 @@ namespace quillon::store {
 
 /// Reads and writes data files, with the last few held in memory: as long as a file's stamp on disk stays the same it
 /// is not read again. A change from outside is seen at the next call. File names match without regard to letter case.
+///
+/// A file that cannot be read looks empty to readers. What is written must not rest on that: once a file could not be
+/// read while a batch is open, the store writes nothing more until the batch has ended, and the batch fails.
 class ProfileStore
 {
 public:
@@ -26,6 +29,8 @@ public:
     ProfileStore& operator=(const ProfileStore&) = delete;
     ~ProfileStore() = default;
 
+    [[nodiscard]] FileCalls& Calls() const noexcept { return m_calls; }
+
     /// The file's document, empty for a file that is missing or cannot be read; with the edits of an open batch.
     /// Valid until the next call on the store.
     [[nodiscard]] const PrivateProfile& Read(const std::filesystem::path& file);
@@ -35,7 +40,8 @@ public:
     /// @return false when the file could not be written; it then stands as before.
     bool Edit(const std::filesystem::path& file, const ProfileEdit& edit);
 
-    /// Creates a file empty unless its name stands in the folder. @throws std::system_error when it cannot be created.
+    /// Creates a file empty unless its name stands in the folder. @throws std::system_error when it cannot be created,
+    /// or the folder cannot be searched for it.
     void CreateIfMissing(const std::filesystem::path& file);
 
 private:
@@ -59,6 +65,7 @@ private:
 
     struct Batch
     {
+        bool isSpoilt = false; ///< something could not be read since it was opened
         std::vector<ProfileEdit> edits;
         std::optional<Document> document; ///< the file with the edits, as far as somebody asked for it
     };
@@ -67,6 +74,8 @@ private:
     [[nodiscard]] std::optional<Document> Take(const Location& location);
     const PrivateProfile& Hold(Document document);
     const PrivateProfile& ReadInBatch(Batch& batch, const Location& location);
+    void SpoilBatches();
+    [[nodiscard]] bool IsSpoilt() const;
     [[nodiscard]] bool Rewrite(const Location& location, std::span<const ProfileEdit> edits);
 
     std::string BeginBatch(const std::filesystem::path& file);

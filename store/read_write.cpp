@@ -5,7 +5,6 @@
 
 #include <array>
 #include <filesystem>
-#include <system_error>
 #include <utility>
 
 namespace quillon::store {
@@ -15,14 +14,15 @@ constexpr std::size_t kReadBuffer = 255;
 constexpr std::size_t kLongestText = 255;
 
 /// What a listing of the path finds: the file of that name, or for a folder's own path any file in it.
-bool FindsFile(const std::filesystem::path& path)
+bool FindsFile(FileCalls& calls, const std::filesystem::path& path)
 {
     if (!path.has_filename()) {
-        return !ListFiles(path).empty();
+        return !ListFiles(calls, path).empty();
     }
-    const std::filesystem::path spelled = ResolveCase(path);
-    std::error_code error;
-    return NameExists(spelled) && !std::filesystem::is_directory(spelled, error);
+    const FoundName found = FindName(calls, path);
+    struct stat status = {};
+    const bool isFolder = calls.Stat(found.path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    return found.state == NameState::There && !isFolder;
 }
 
 } // namespace
@@ -38,7 +38,7 @@ bool ReadWrite::DataFileCheck(std::string_view name)
 {
     const std::filesystem::path path = m_folder.DataSetPath(name);
     m_dataFilePath = path.string();
-    if (FindsFile(path)) {
+    if (FindsFile(m_store.Calls(), path)) {
         return true;
     }
     m_notifier.Inform("Data file " + m_dataFilePath + " is missing or corrupt.", "Data File Missing");

@@ -13,6 +13,7 @@ namespace {
 
 constexpr mode_t kNewFileMode = 0666; // less what the user's mask takes away
 constexpr mode_t kModeBits = 07777;
+constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
 bool WriteAll(FileCalls& calls, int descriptor, std::string_view text)
 {
@@ -47,8 +48,6 @@ std::filesystem::path FolderOf(const std::filesystem::path& file)
     return file.has_parent_path() ? file.parent_path() : ".";
 }
 
-constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-
 bool RemoveIfThere(FileCalls& calls, const std::string& path)
 {
     return calls.Unlink(path.c_str()) == 0 || errno == ENOENT;
@@ -70,9 +69,14 @@ bool WriteNewFile(FileCalls& calls, const std::string& path, std::string_view te
 
 } // namespace
 
+std::filesystem::path TemporaryFile(const std::filesystem::path& target)
+{
+    return target.parent_path() / ("." + target.filename().string() + ".tmp");
+}
+
 bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text)
 {
-    const std::optional<std::filesystem::path> target = FollowLinks(file);
+    const std::optional<std::filesystem::path> target = FollowLinks(calls, file);
     if (!target) {
         return false;
     }
@@ -86,7 +90,7 @@ bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::strin
     } else if (errno != ENOENT) {
         return false;
     }
-    const std::string temporary = target->parent_path() / ("." + target->filename().string() + ".tmp");
+    const std::string temporary = TemporaryFile(*target);
     const OpenFile folder(calls, FolderOf(*target).c_str(), kFolderFlags);
     if (!folder || !RemoveIfThere(calls, temporary)) {
         return false;

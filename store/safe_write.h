@@ -14,6 +14,9 @@ namespace quillon::store {
 ///         file stands, complete, but the system reports that the folder could not be brought to the disk.
 [[nodiscard]] bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text);
 
+/// Where ReplaceFile puts a file's new text first. @param target  a path without links
+[[nodiscard]] std::filesystem::path TemporaryFile(const std::filesystem::path& target);
+
 /// Creates an empty file and brings it to the disk, or leaves none. @throws std::system_error when it cannot be created
 /// or something stands there already.
 void CreateEmptyFile(FileCalls& calls, const std::filesystem::path& file);

@@ -55,11 +55,11 @@ bool SavedSystems::Write(Slot slot, std::string_view name, const SystemPair& pai
 {
     constexpr std::int32_t kFailed = 0;
     const std::vector<std::pair<std::string, std::string>> entries = PairEntries(pair);
+    ProfileBatch batch(m_store, m_readWrite.DataFilePath());
     // A list that could not be read for once looks empty: writing its first entry would lose all the others.
     if (SystemExists(name) != slot) {
         return false;
     }
-    ProfileBatch batch(m_store, m_readWrite.DataFilePath());
     std::vector<std::int32_t> results{m_readWrite.IniWrite(kSavedSystems, SlotKey(slot.number), name)};
     for (const auto& [key, value] : entries) {
         results.push_back(m_readWrite.IniWrite(name, key, value));

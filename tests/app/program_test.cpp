@@ -52,8 +52,9 @@ protected:
     std::optional<Program> program;
     std::optional<ui::Splash> splash;
 
-private:
     support::TempFolder m_files;
+
+private:
     store::ProgramFolder m_folder{(m_files / "Quillon").string()};
 };
 
@@ -72,6 +73,16 @@ TEST_F(ProgramTest, TheMainWindowComesLoadedAndTakesTheKeyboardBesideTheSplash)
     EXPECT_TRUE(program->Window().FormLoaded());
     EXPECT_TRUE(QTest::qWaitForWindowActive(&program->Window()));
     EXPECT_TRUE(splash->isVisible());
+}
+
+TEST_F(ProgramTest, ItTakesAwayWhatAKilledRunLeft)
+{
+    m_files.Put(".QuillonSystems.dat.tmp", "half a te");
+    m_files.Put("Antennas/.HALO.DAT.tmp", "half a te");
+    Start(0ms);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return program && program->Window().isVisible(); }));
+    EXPECT_EQ(m_files.Get(".QuillonSystems.dat.tmp"), std::nullopt);
+    EXPECT_EQ(m_files.Get("Antennas/.HALO.DAT.tmp"), std::nullopt);
 }
 
 TEST_F(ProgramTest, ItGoesOnWhenTheSplashGoesLast)

@@ -99,7 +99,7 @@ TEST_F(AntennaFilesTest, MakerIsFoundWhateverTheCaseOfItsFileName)
     folder.Put("Antennas/foo.dat", "[M]\n");
     EXPECT_TRUE(files.BrandFileExists("FOO"));
     EXPECT_TRUE(files.CreateBrandFile("FOO"));
-    EXPECT_TRUE(files.AddModel("FOO", "M2"));
+    EXPECT_TRUE(files.AddModel("FOO", "M2", IfModelFound::Replace));
     EXPECT_EQ(Brand("foo.dat"), "[M]\n[M2]\nGainType=dBd\n");
     EXPECT_FALSE(fs::exists(folder / "Antennas/FOO.DAT"));
 }
@@ -114,7 +114,7 @@ TEST_P(HostileBrand, ReachesNoFile)
     EXPECT_FALSE(files.BrandFileExists(GetParam()));
     EXPECT_FALSE(files.CreateBrandFile(GetParam()));
     EXPECT_EQ(files.FirstModelWith(GetParam(), "m"), std::nullopt);
-    EXPECT_FALSE(files.AddModel(GetParam(), "m"));
+    EXPECT_FALSE(files.AddModel(GetParam(), "m", IfModelFound::Replace));
     EXPECT_FALSE(files.SaveChanges(GetParam(), "m", {"dBd", {}}));
     EXPECT_FALSE(files.UpdateIndex(GetParam(), kToday));
     EXPECT_EQ(folder.Get("X.DAT"), "[m]\nGainType=dBi\n");
@@ -172,7 +172,7 @@ TEST_F(AntennaFilesTest, NewModelStartsAsDBdInOneReplacement)
 {
     folder.Put("Antennas/Acme.DAT", "[XR-5]\r\nGainType=dBi\r\n");
     calls.FailAt(0, 0);
-    EXPECT_TRUE(files.AddModel("Acme", "Loop (M\xFChle)"));
+    EXPECT_TRUE(files.AddModel("Acme", "Loop (M\xFChle)", IfModelFound::Refuse));
     EXPECT_EQ(Brand("Acme.DAT"), "[XR-5]\r\nGainType=dBi\r\n[Loop (M\xFChle)]\r\nGainType=dBd\r\n");
     EXPECT_EQ(Replacements(), 1);
 }
@@ -180,14 +180,22 @@ TEST_F(AntennaFilesTest, NewModelStartsAsDBdInOneReplacement)
 TEST_F(AntennaFilesTest, ReplacingAModelSetsItsTypeAndKeepsItsGainsAsGiven)
 {
     folder.Put("Antennas/Acme.DAT", "[XR-5]\nGainType=dBi\nGain20=71\n");
-    EXPECT_TRUE(files.AddModel("Acme", "xr-5"));
+    EXPECT_TRUE(files.AddModel("Acme", "xr-5", IfModelFound::Replace));
     EXPECT_EQ(Brand("Acme.DAT"), "[XR-5]\nGainType=dBd\nGain20=71\n");
+}
+
+TEST_F(AntennaFilesTest, ModelIsNotReplacedUnasked)
+{
+    folder.Put("Antennas/Acme.DAT", "[XR-5]\nGainType=dBi\nGain20=71\n");
+    EXPECT_FALSE(files.AddModel("Acme", "xr-5", IfModelFound::Refuse));
+    EXPECT_FALSE(files.AddModel("Acme", "X", IfModelFound::Refuse));
+    EXPECT_EQ(Brand("Acme.DAT"), "[XR-5]\nGainType=dBi\nGain20=71\n");
 }
 
 TEST_F(AntennaFilesTest, ModelNamesThatWouldNotReadBackAreNotAdded)
 {
     for (const char* name : {"", " M", "M ", "\"M\"", "a\nb", "a\tb"}) {
-        EXPECT_FALSE(files.AddModel("Acme", name)) << name;
+        EXPECT_FALSE(files.AddModel("Acme", name, IfModelFound::Replace)) << name;
     }
     EXPECT_EQ(Brand("Acme.DAT"), "");
 }

@@ -156,7 +156,7 @@ protected:
 
 TEST_F(FailingCommand, AddingAModelIsWholeOrNotAtAll)
 {
-    CheckAll([](AntennaFiles& files) { return files.AddModel("Acme", "B"); });
+    CheckAll([](AntennaFiles& files) { return files.AddModel("Acme", "B", IfModelFound::Refuse); });
 }
 
 TEST_F(FailingCommand, SavingChangesIsWholeOrNotAtAll)
@@ -177,7 +177,7 @@ TEST_F(AntennaIndexTest, FoldersThatCannotBeWrittenAreToldByFalse)
 {
     fs::remove(folder / "Antennas");
     EXPECT_FALSE(files.CreateBrandFile("Acme"));
-    EXPECT_FALSE(files.AddModel("Acme", "A"));
+    EXPECT_FALSE(files.AddModel("Acme", "A", IfModelFound::Refuse));
     EXPECT_FALSE(files.SaveChanges("Acme", "A", {"dBd", {}}));
     EXPECT_FALSE(files.UpdateIndex("Acme", kToday));
     EXPECT_TRUE(fs::is_empty(folder.Path()));

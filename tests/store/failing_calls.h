@@ -42,6 +42,11 @@ public:
         return Fails("stat") ? -1 : FileCalls::Stat(path, status);
     }
 
+    int Lstat(const char* path, struct stat* status) override
+    {
+        return Fails("lstat") ? -1 : FileCalls::Lstat(path, status);
+    }
+
     int Fstat(int descriptor, struct stat* status) override
     {
         return Fails("fstat") ? -1 : FileCalls::Fstat(descriptor, status);
@@ -64,7 +69,17 @@ public:
 
     int Unlink(const char* path) override { return Fails("unlink") ? -1 : FileCalls::Unlink(path); }
 
+    ssize_t ReadLink(const char* path, char* buffer, std::size_t length) override
+    {
+        return Fails("readlink") ? -1 : FileCalls::ReadLink(path, buffer, length);
+    }
+
     int MayWrite(const char* path) override { return Fails("access") ? -1 : FileCalls::MayWrite(path); }
+
+    int List(const char* path, std::vector<FolderEntry>& entries) override
+    {
+        return Fails("list") ? -1 : FileCalls::List(path, entries);
+    }
 
 private:
     bool Fails(const char* call)

@@ -1,5 +1,6 @@
 #include "store/file_names.h"
 
+#include "tests/store/failing_calls.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -15,63 +16,66 @@ using Names = std::vector<std::string>;
 class FileNames : public ::testing::Test
 {
 protected:
+    fs::path Resolve(const fs::path& path) { return FindName(m_calls, path).path; }
+
     support::TempFolder m_folder;
+    FailingCalls m_calls;
 };
 
 TEST_F(FileNames, ResolveToTheSpellingOnDisk)
 {
     m_folder.Put("Foo.dat", "");
-    EXPECT_EQ(ResolveCase(m_folder / "FOO.DAT"), m_folder / "Foo.dat");
+    EXPECT_EQ(Resolve(m_folder / "FOO.DAT"), m_folder / "Foo.dat");
 }
 
 TEST_F(FileNames, ResolveFoldersToo)
 {
     m_folder.Put("COAX/Foo.dat", "");
-    EXPECT_EQ(ResolveCase(m_folder / "Coax/foo.dat"), m_folder / "COAX/Foo.dat");
-    EXPECT_EQ(ResolveCase(m_folder / "Coax/new.dat"), m_folder / "COAX/new.dat");
+    EXPECT_EQ(Resolve(m_folder / "Coax/foo.dat"), m_folder / "COAX/Foo.dat");
+    EXPECT_EQ(Resolve(m_folder / "Coax/new.dat"), m_folder / "COAX/new.dat");
 }
 
 TEST_F(FileNames, PreferTheExactSpelling)
 {
     m_folder.Put("FOO.dat", "");
     m_folder.Put("foo.dat", "");
-    EXPECT_EQ(ResolveCase(m_folder / "foo.dat"), m_folder / "foo.dat");
+    EXPECT_EQ(Resolve(m_folder / "foo.dat"), m_folder / "foo.dat");
 }
 
 TEST_F(FileNames, PreferTheExactSpellingOfALinkThatLeadsNowhere)
 {
     fs::create_symlink("nowhere", m_folder / "foo.dat");
     m_folder.Put("FOO.dat", "");
-    EXPECT_EQ(ResolveCase(m_folder / "foo.dat"), m_folder / "foo.dat");
+    EXPECT_EQ(Resolve(m_folder / "foo.dat"), m_folder / "foo.dat");
 }
 
 TEST_F(FileNames, PreferTheNearestOfOtherSpellings)
 {
     m_folder.Put("FOO.DAT", "");
     m_folder.Put("Foo.dat", "");
-    EXPECT_EQ(ResolveCase(m_folder / "Foo.DAt"), m_folder / "Foo.dat");
-    EXPECT_EQ(ResolveCase(m_folder / "FOO.dAT"), m_folder / "FOO.DAT");
+    EXPECT_EQ(Resolve(m_folder / "Foo.DAt"), m_folder / "Foo.dat");
+    EXPECT_EQ(Resolve(m_folder / "FOO.dAT"), m_folder / "FOO.DAT");
 }
 
 TEST_F(FileNames, PreferTheFirstByCharacterCodeAmongEquals)
 {
     m_folder.Put("fOO", "");
     m_folder.Put("Foo", "");
-    EXPECT_EQ(ResolveCase(m_folder / "FOo"), m_folder / "Foo");
+    EXPECT_EQ(Resolve(m_folder / "FOo"), m_folder / "Foo");
 }
 
 TEST_F(FileNames, StayAsGivenWhenNothingIsFound)
 {
-    EXPECT_EQ(ResolveCase(m_folder / "new.dat"), m_folder / "new.dat");
-    EXPECT_EQ(ResolveCase(m_folder / "missing/new.dat"), m_folder / "missing/new.dat");
-    EXPECT_EQ(ResolveCase(""), "");
-    EXPECT_EQ(ResolveCase("no-such-name-here"), "no-such-name-here");
+    EXPECT_EQ(Resolve(m_folder / "new.dat"), m_folder / "new.dat");
+    EXPECT_EQ(Resolve(m_folder / "missing/new.dat"), m_folder / "missing/new.dat");
+    EXPECT_EQ(Resolve(""), "");
+    EXPECT_EQ(Resolve("no-such-name-here"), "no-such-name-here");
 }
 
 TEST_F(FileNames, OfAnotherCaseBeyondASCIIAreOtherNames)
 {
     m_folder.Put("\xC3\x89.dat", "");
-    EXPECT_EQ(ResolveCase(m_folder / "\xC3\xA9.dat"), m_folder / "\xC3\xA9.dat");
+    EXPECT_EQ(Resolve(m_folder / "\xC3\xA9.dat"), m_folder / "\xC3\xA9.dat");
 }
 
 TEST_F(FileNames, ListEverythingButFolders)
@@ -82,13 +86,13 @@ TEST_F(FileNames, ListEverythingButFolders)
     fs::create_symlink("folder", m_folder / "link to folder");
     fs::create_symlink("nowhere", m_folder / "link");
     ASSERT_EQ(::mkfifo((m_folder / "pipe").c_str(), 0600), 0);
-    EXPECT_EQ(ListFiles(m_folder.Path()), (Names{"A", "b", "link", "pipe"}));
+    EXPECT_EQ(ListFiles(m_calls, m_folder.Path()), (Names{"A", "b", "link", "pipe"}));
 }
 
 TEST_F(FileNames, ListNothingOfWhatIsNoFolder)
 {
-    EXPECT_EQ(ListFiles(m_folder / "missing"), Names());
-    EXPECT_EQ(ListFiles(m_folder.Put("file", "")), Names());
+    EXPECT_EQ(ListFiles(m_calls, m_folder / "missing"), Names());
+    EXPECT_EQ(ListFiles(m_calls, m_folder.Put("file", "")), Names());
 }
 
 TEST_F(FileNames, ListTheCurrentFolderByTheEmptyPath)
@@ -96,16 +100,16 @@ TEST_F(FileNames, ListTheCurrentFolderByTheEmptyPath)
     m_folder.Put("f", "");
     const fs::path before = fs::current_path();
     fs::current_path(m_folder.Path());
-    EXPECT_EQ(ListFiles(""), Names{"f"});
-    EXPECT_EQ(ResolveCase("F"), "f");
+    EXPECT_EQ(ListFiles(m_calls, ""), Names{"f"});
+    EXPECT_EQ(Resolve("F"), "f");
     fs::current_path(before);
 }
 
 TEST_F(FileNames, ExistAlsoOnLinksThatLeadNowhere)
 {
     fs::create_symlink("nowhere", m_folder / "link");
-    EXPECT_TRUE(NameExists(m_folder / "link"));
-    EXPECT_FALSE(NameExists(m_folder / "nowhere"));
+    EXPECT_EQ(FindName(m_calls, m_folder / "link").state, NameState::There);
+    EXPECT_EQ(FindName(m_calls, m_folder / "nowhere").state, NameState::Missing);
 }
 
 TEST_F(FileNames, AreFollowedFromLinkToLink)
@@ -114,16 +118,46 @@ TEST_F(FileNames, AreFollowedFromLinkToLink)
     fs::create_symlink("file", m_folder / "real/second");
     fs::create_symlink("real/second", m_folder / "first");
     fs::create_symlink(m_folder / "nowhere", m_folder / "dangling");
-    EXPECT_EQ(FollowLinks(m_folder / "first"), m_folder / "real/file");
-    EXPECT_EQ(FollowLinks(m_folder / "dangling"), m_folder / "nowhere");
-    EXPECT_EQ(FollowLinks(m_folder / "real/file"), m_folder / "real/file");
+    EXPECT_EQ(FollowLinks(m_calls, m_folder / "first"), m_folder / "real/file");
+    EXPECT_EQ(FollowLinks(m_calls, m_folder / "dangling"), m_folder / "nowhere");
+    EXPECT_EQ(FollowLinks(m_calls, m_folder / "real/file"), m_folder / "real/file");
 }
 
 TEST_F(FileNames, AreNotFollowedInACircle)
 {
     fs::create_symlink("b", m_folder / "a");
     fs::create_symlink("a", m_folder / "b");
-    EXPECT_EQ(FollowLinks(m_folder / "a"), std::nullopt);
+    EXPECT_EQ(FollowLinks(m_calls, m_folder / "a"), std::nullopt);
+}
+
+TEST_F(FileNames, AreUnknownWhenTheSystemCannotTell)
+{
+    m_folder.Put("Antennas/Foo.dat", "");
+    const fs::path other = m_folder / "ANTENNAS/FOO.DAT";
+    EXPECT_EQ(FindName(m_calls, other), (FoundName{NameState::There, m_folder / "Antennas/Foo.dat"}));
+    const int made = static_cast<int>(m_calls.Made().size());
+    EXPECT_GE(made, 4);
+    for (int number = 1; number <= made; ++number) {
+        m_calls.FailAt(number, EIO);
+        EXPECT_EQ(FindName(m_calls, other), (FoundName{NameState::Unknown, other})) << number;
+    }
+}
+
+TEST_F(FileNames, AreNotListedFromAFolderThatFails)
+{
+    m_folder.Put("f", "");
+    m_calls.FailAt(1, EIO);
+    EXPECT_EQ(ListFiles(m_calls, m_folder.Path()), Names());
+}
+
+TEST_F(FileNames, AreNotTakenAsNoLinksWhenTheSystemCannotTell)
+{
+    m_folder.Put("f", "");
+    fs::create_symlink("f", m_folder / "link");
+    for (const int number : {1, 2}) {
+        m_calls.FailAt(number, EIO);
+        EXPECT_EQ(FollowLinks(m_calls, m_folder / "link"), std::nullopt) << number;
+    }
 }
 
 } // namespace

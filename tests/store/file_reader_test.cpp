@@ -156,12 +156,12 @@ private:
     int m_isRead = 0;
 };
 
-TEST_F(ReadFileTest, TakesWhatIsThereOfAFileThatShrinks)
+TEST_F(ReadFileTest, RefusesAFileThatShrinksMeanwhile)
 {
     m_folder.Put("f", "text");
     EndingCalls calls;
-    EXPECT_EQ(ReadFile(calls, (m_folder / "f").c_str(), m_bytes).state, FileState::Regular);
-    EXPECT_EQ(m_bytes, "te");
+    EXPECT_EQ(ReadFile(calls, (m_folder / "f").c_str(), m_bytes).state, FileState::Refused);
+    EXPECT_EQ(m_bytes, "");
 }
 
 TEST_F(ReadFileTest, StampsTellReplacedChangedAndTouchedFilesApart)

@@ -177,5 +177,58 @@ TEST_F(ProfileBatchTest, LeavesTheBytesThatWritingKeyByKeyLeaves)
     }
 }
 
+TEST_F(ProfileBatchTest, WritesNothingMoreOnceAFileCouldNotBeRead)
+{
+    const fs::path other = m_folder.Put("other.dat", "[s]\nb=1\n");
+    ProfileBatch batch(m_store, m_file);
+    EXPECT_TRUE(Write("a", "2"));
+    m_calls.FailAt(1, EIO);
+    EXPECT_EQ(m_store.Read(other).Bytes(), "");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(m_store.Read(other).Value("s", "b"), "1");
+    EXPECT_FALSE(Write("a", "3"));
+    EXPECT_FALSE(m_store.Edit(other, {"s", "b", "2"}));
+    EXPECT_FALSE(batch.Commit());
+    EXPECT_EQ(m_folder.Get("f.dat"), "[s]\na=1\n");
+    EXPECT_EQ(m_folder.Get("other.dat"), "[s]\nb=1\n");
+    EXPECT_TRUE(Write("a", "3"));
+    EXPECT_EQ(m_folder.Get("f.dat"), "[s]\na=3\n");
+}
+
+TEST_F(ProfileBatchTest, DoesNotServeAReadFromBeforeTheFileBecameUnreadable)
+{
+    fs::remove(m_file);
+    ProfileBatch batch(m_store, m_file);
+    EXPECT_EQ(Value("a"), "none");
+    fs::create_directory(m_file);
+    EXPECT_EQ(Value("a"), "none");
+    fs::remove(m_file);
+    EXPECT_FALSE(Write("a", "2"));
+    EXPECT_FALSE(batch.Commit());
+    EXPECT_FALSE(fs::exists(m_file));
+}
+
+/// With the file under another spelling, so that the folder has to be searched for it.
+TEST_F(ProfileBatchTest, WritesAllOrNothingWhateverCallFails)
+{
+    const auto write = [this](ProfileStore& store) {
+        ProfileBatch batch(store, m_folder / "F.DAT");
+        const bool isWritten = store.Edit(m_folder / "F.DAT", {"s", "a", "2"});
+        return store.Edit(m_folder / "F.DAT", {"s", "b", "3"}) && isWritten && batch.Commit();
+    };
+    bool isThrough = false;
+    for (int number = 1; !isThrough; ++number) {
+        m_folder.Put("f.dat", "[s]\na=1\n");
+        ProfileStore store(m_calls);
+        m_calls.FailAt(number, EIO);
+        const bool isWritten = write(store);
+        const bool isNew = m_folder.Get("f.dat") == "[s]\na=2\nb=3\n";
+        EXPECT_TRUE(isNew || (!isWritten && m_folder.Get("f.dat") == "[s]\na=1\n")) << number;
+        EXPECT_EQ(m_folder.Names(), std::vector<std::string>{"f.dat"}) << number;
+        isThrough = static_cast<int>(m_calls.Made().size()) < number;
+        EXPECT_TRUE(isWritten || !isThrough);
+    }
+}
+
 } // namespace
 } // namespace quillon::store

@@ -210,6 +210,22 @@ TEST_F(ProfileStoreTest, ReadsAndWritesTheFileOfAnotherSpelling)
     EXPECT_EQ(m_folder.Names(), Names{"Foo.dat"});
 }
 
+TEST_F(ProfileStoreTest, NeverPutsASecondFileBesideOneOfAnotherSpelling)
+{
+    for (int number = 1; number <= 8; ++number) {
+        m_folder.Put("Foo.dat", "[s]\nk=1\n");
+        m_calls.FailAt(number, EIO);
+        Write(m_folder / "FOO.DAT", "2");
+        m_calls.FailAt(number, EIO);
+        try {
+            m_store.CreateIfMissing(m_folder / "FOO.DAT");
+        } catch (const std::system_error&) {
+            EXPECT_LE(number, 3);
+        }
+        EXPECT_EQ(m_folder.Names(), Names{"Foo.dat"}) << number;
+    }
+}
+
 TEST_F(ProfileStoreTest, FailsToWriteInAMissingFolder)
 {
     EXPECT_FALSE(Write(m_folder / "missing/f.dat", "1"));

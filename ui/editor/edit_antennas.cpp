@@ -260,12 +260,13 @@ void EditAntennas::txtAntennaModel_Enter()
         return;
     }
     const std::string model = store::FromUtf8(typed.toStdString()).value_or(std::string());
-    if (m_files.FirstModelWith(Maker(), model) &&
+    const bool isFound = m_files.FirstModelWith(Maker(), model).has_value();
+    if (isFound &&
         !AskOkCancel(this, QStringLiteral("Antenna Model ") + typed + QStringLiteral(" Already Exists! Replace it?"),
                      QStringLiteral("Model Exists!"))) {
         return;
     }
-    if (!m_files.AddModel(Maker(), model)) {
+    if (!m_files.AddModel(Maker(), model, isFound ? store::IfModelFound::Replace : store::IfModelFound::Refuse)) {
         Tell(kNotWritten.arg(m_selection->Makers().currentText()));
         return;
     }
