@@ -71,7 +71,8 @@ constexpr std::array kCommands{
     Command{"save-new", [](Data& data) { return data.SavePair("new pair"); }},
     Command{"save-over", [](Data& data) { return data.SavePair("home"); }},
     Command{"add-maker", [](Data& data) { return data.antennas.CreateBrandFile("New maker"); }},
-    Command{"add-model", [](Data& data) { return data.antennas.AddModel(kMaker, "new model"); }},
+    Command{"add-model",
+            [](Data& data) { return data.antennas.AddModel(kMaker, "new model", store::IfModelFound::Replace); }},
     Command{"save-bands",
             [](Data& data) {
                 return data.antennas.SaveChanges(kMaker, kModel, {"dBi", {10, 20}});

@@ -71,7 +71,7 @@ public:
             m_brand = "Maker" + std::to_string(Below(kMakers));
             return Tell(m_antennas.CreateBrandFile(m_brand), Brand(), "add maker");
         case 5:
-            return Tell(m_antennas.AddModel(m_brand, Model()), Brand(), "add model");
+            return Tell(m_antennas.AddModel(m_brand, Model(), store::IfModelFound::Replace), Brand(), "add model");
         case 6:
             return SaveBands();
         default:
