@@ -40,7 +40,7 @@ class Session:
         deadline = time.monotonic() + limit
         while not condition():
             if self.process.poll() is not None:
-                raise NotSeen("stale lock" if self.process.returncode == 0 else f"no start: {self.process.returncode}")
+                raise NotSeen(f"{otherwise}: the program has ended with {self.process.returncode}")
             if time.monotonic() > deadline:
                 raise NotSeen(f"{otherwise}: waited in vain for {what} among {self._screen.titles()}")
             time.sleep(0.001)
@@ -50,7 +50,10 @@ class Session:
         self.wait_until(f'"{title}"', lambda: self._screen.focused() == title, limit, otherwise)
 
     def start(self):
-        self.wait_for(SPLASH, START_LIMIT, "no start")
+        self.wait_until("the splash window or the end",
+                        lambda: self._screen.focused() == SPLASH or self.process.poll() == 0, START_LIMIT, "no start")
+        if self.process.poll() == 0:
+            raise NotSeen("stale lock: taken for a second copy")
         self._screen.press("Escape")
         self.wait_for(MAIN, START_LIMIT, "no start")
 
