@@ -4,6 +4,7 @@
 #include "store/antenna_files.h"
 #include "store/ini_manager.h"
 #include "store/saved_systems.h"
+#include "store/stale_files.h"
 
 #include <array>
 #include <chrono>
@@ -72,7 +73,7 @@ constexpr std::array kCommands{
     Command{"save-over", [](Data& data) { return data.SavePair("home"); }},
     Command{"add-maker", [](Data& data) { return data.antennas.CreateBrandFile("New maker"); }},
     Command{"add-model",
-            [](Data& data) { return data.antennas.AddModel(kMaker, "new model", store::IfModelFound::Replace); }},
+            [](Data& data) { return data.antennas.AddModel(kMaker, "new model", store::IfModelFound::Refuse); }},
     Command{"save-bands",
             [](Data& data) {
                 return data.antennas.SaveChanges(kMaker, kModel, {"dBi", {10, 20}});
@@ -81,6 +82,12 @@ constexpr std::array kCommands{
             [](Data& data) {
                 using namespace std::chrono;
                 return data.antennas.UpdateIndex(kMaker, 2001y / February / 3);
+            }},
+    // Not a save, but what each start of the program begins with.
+    Command{"start",
+            [](Data& data) {
+                store::RemoveStaleFiles(data.files.Calls(), data.folder);
+                return true;
             }},
     Command{"delete-key", [](Data& data) { return data.Delete(false); }},
     Command{"delete-model", [](Data& data) { return data.Delete(true); }},

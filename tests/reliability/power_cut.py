@@ -7,7 +7,8 @@ leave. A copy of an ordinary backing file would not do: it takes a while, in whi
 everything that was ever written, flushed or not.
 
 Each image is mounted as the next start of the machine would do it. The file system has to be clean, each save that had
-been reported before the cut has to be there, and each file has to be wholly one state of the sequence of saves.
+been reported before the cut has to be there, and each file has to be wholly one state of the sequence of saves; what a
+save under way has left beside them has to be gone after the program's start.
 
 Needs root, loop devices and /dev/fuse; without them it fails.
 """
@@ -135,20 +136,17 @@ def read_files(folder):
     return {str(path.relative_to(folder)): zlib.crc32(path.read_bytes()) for path in files}
 
 
-def is_temporary(name):
-    return os.path.basename(name).startswith(".") and name.endswith(".tmp")
-
-
-def check_image(image, folder, saves, reported):
+def check_image(tools, image, folder, saves, reported):
     """Starts again from an image. Returns what is wrong with it."""
     with mounted(image, folder, "loop"):
+        run(tools / "quillon_reliability_save", folder, "start")
         found = read_files(folder)
     fsck = subprocess.run(["e2fsck", "-fn", image], capture_output=True, text=True, check=False)
     findings = [f"e2fsck: {fsck.stdout.strip()}"] if fsck.returncode != 0 else []
     for file, states in saves.states.items():
         findings.append(judge(file, found.get(file), states, reported.get(file, 0)))
     for file in found.keys() - saves.states.keys() - {"QuillonSystems.dat"}:
-        findings.append(None if is_temporary(file) else f"unknown file {file}")
+        findings.append(f"stray file {file}")
     return [finding for finding in findings if finding]
 
 
@@ -163,7 +161,7 @@ class Figures:
 
         return (f"{self.cuts:,} power cuts in {self.saves:,} saves, {self.at_risk:,} with writes in the disk's cache, "
                 f"{count('lost')} lost saves, {count('torn')} torn files, {count('e2fsck')} damaged file systems, "
-                f"{count('unknown')} unknown files")
+                f"{count('stray')} stray files after the next start")
 
 
 def cut_once(disk, saves, loop, image, chance):
@@ -199,7 +197,7 @@ def run_disk(tools, work, seed, number, count, figures):
                     reported, at_risk = cut_once(disk, saves, loop, picture, chance)
                     figures.cuts += 1
                     figures.at_risk += at_risk > 0
-                    for finding in check_image(picture, again, saves, reported):
+                    for finding in check_image(tools, picture, again, saves, reported):
                         figures.findings.append(finding)
                         print(f"seed {seed}, disk {number}, cut {cut}: {finding}", flush=True)
                 figures.saves += saves.count
