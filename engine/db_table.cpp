@@ -45,9 +45,7 @@ int Middle(int low, int high) noexcept
     return sum % 2 != 0 && half % 2 != 0 ? half + 1 : half;
 }
 
-} // namespace
-
-DBTable BuildDBTable()
+DBTable RoundedTable()
 {
     DBTable table;
     for (std::size_t i = 0; i < table.size(); ++i) {
@@ -56,6 +54,15 @@ DBTable BuildDBTable()
         row.gainCoefficient = RoundWithMask(NumberFromText(kGainCoefficients[i]), "#0.000");
         row.lossCoefficient = RoundWithMask(1 / row.gainCoefficient, "#0.0000");
     }
+    return table;
+}
+
+} // namespace
+
+DBTable BuildDBTable()
+{
+    // Six hundred roundings take as long as twenty computations, and each pair that is loaded is tried on a table.
+    static const DBTable table = RoundedTable();
     return table;
 }
 
