@@ -21,8 +21,8 @@ using store::ProgramFolder;
 constexpr const char* kSystems = "QuillonSystems.dat";
 constexpr const char* kMaker = "Antennas/Acme.DAT";
 constexpr const char* kIndex = "Antennas/ANTENNAS.ZEP";
-constexpr const char* kModels = "[A]\nGainType=dBd\nGain20=71\nGain40=33\n[B]\nGainType=dBd\nGain10=5\n";
-constexpr const char* kOtherModel = "[B]\nGainType=dBd\nGain10=5\n";
+constexpr const char* kModels = "[A]\nGainType=dBd\nGain20=71\nGain40=33\n[B]\nGainType=dBi\nGain10=5\n";
+constexpr const char* kOtherModel = "[B]\nGainType=dBi\nGain10=5\n";
 
 bool SavePair(ProfileStore& store, const ProgramFolder& folder, const char* name)
 {
@@ -48,10 +48,20 @@ bool AddMaker(ProfileStore& store, const ProgramFolder& folder)
 }
 
 /// As the editor does it: it asks what is there, and nobody agrees to a replacement.
-bool AddModel(ProfileStore& store, const ProgramFolder& folder)
+bool AddModel(ProfileStore& store, const ProgramFolder& folder, const char* model)
 {
     store::AntennaFiles files(folder, store);
-    return !files.FirstModelWith("Acme", "Beam 9") && files.AddModel("Acme", "Beam 9", store::IfModelFound::Refuse);
+    return !files.FirstModelWith("Acme", model) && files.AddModel("Acme", model, store::IfModelFound::Refuse);
+}
+
+bool AddNewModel(ProfileStore& store, const ProgramFolder& folder)
+{
+    return AddModel(store, folder, "Beam 9");
+}
+
+bool AddModelThatExists(ProfileStore& store, const ProgramFolder& folder)
+{
+    return AddModel(store, folder, "B");
 }
 
 bool SaveBands(ProfileStore& store, const ProgramFolder& folder)
@@ -125,18 +135,19 @@ std::vector<Operation> MakeOperations()
         "[Acme]\r\n=\r\nDateCreated=03/07/2026\r\nLastModified=03/07/2026\r\nNumEntries=2\r\n";
     // clang-format off
     return {
-        {"save-new-pair",  kSystems, pairs,  added,   OnlyPair("C"), false, SaveNewPair},
-        {"save-over-pair", kSystems, pairs,  updated, OnlyPair("A"), false, SaveOverAPair},
-        {"add-maker",      kMaker,   models, models,  "", true, AddMaker},
+        {"save-new-pair",  kSystems, pairs,  added,   OnlyPair("C"), false, false, SaveNewPair},
+        {"save-over-pair", kSystems, pairs,  updated, OnlyPair("A"), false, false, SaveOverAPair},
+        {"add-maker",      kMaker,   models, models,  "", true, false, AddMaker},
         {"add-model",      kMaker,   models, models + "[Beam 9]\nGainType=dBd\n",
-         "[Beam 9]\r\nGainType=dBd\r\n", true, AddModel},
+         "[Beam 9]\r\nGainType=dBd\r\n", true, false, AddNewModel},
+        {"add-old-model",  kMaker,   models, models, "[B]\r\nGainType=dBd\r\n", true, true, AddModelThatExists},
         {"save-bands",     kMaker,   models, "[A]\nGainType=dBi\nGain20=52\nGain80=0\n" + other,
-         "[A]\r\nGainType=dBi\r\nGain80=0\r\nGain20=52\r\n", true, SaveBands},
+         "[A]\r\nGainType=dBi\r\nGain80=0\r\nGain20=52\r\n", true, false, SaveBands},
         {"remove-bands",   kMaker,   models, "[A]\nGainType=dBi\n" + other,
-         "[A]\r\nGainType=dBi\r\n", true, RemoveBands},
-        {"update-index",   kIndex,   index,  newIndex, onlyIndex, true, UpdateIndex},
-        {"delete-key",     kMaker,   models, "[A]\nGainType=dBd\nGain20=71\n" + other, "", true, DeleteKey},
-        {"delete-section", kMaker,   models, other, "", true, DeleteSection},
+         "[A]\r\nGainType=dBi\r\n", true, false, RemoveBands},
+        {"update-index",   kIndex,   index,  newIndex, onlyIndex, true, false, UpdateIndex},
+        {"delete-key",     kMaker,   models, "[A]\nGainType=dBd\nGain20=71\n" + other, "", true, false, DeleteKey},
+        {"delete-section", kMaker,   models, other, "", true, false, DeleteSection},
     };
     // clang-format on
 }

@@ -17,6 +17,7 @@ struct Operation
     std::string after;        ///< of before
     std::string afterNothing; ///< of an empty file; lines end with CR LF
     bool createsFile;         ///< a missing file is made; otherwise the command refuses to work without one
+    bool isRefused;           ///< because of what stands in before: only a file without it is written
     bool (*run)(store::ProfileStore& store, const store::ProgramFolder& folder);
 };
 

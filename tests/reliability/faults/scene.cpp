@@ -151,7 +151,9 @@ Scene MakeScene(const Operation& operation, State state)
     if (!isMissing || operation.createsFile) {
         scene.after[scene.file] = {false, texts.after};
     }
-    scene.isDone = (!isMissing || operation.createsFile) && (!scene.isReadOnly || operation.before == operation.after);
+    const bool isNothing = isMissing || state == State::Empty;
+    const bool isWritable = !scene.isReadOnly || operation.before == operation.after;
+    scene.isDone = (!isMissing || operation.createsFile) && (isNothing || !operation.isRefused) && isWritable;
     return scene;
 }
 
