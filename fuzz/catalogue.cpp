@@ -22,7 +22,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-constexpr std::size_t kMostAsked = 4;
 constexpr std::size_t kCell = 25;
 
 std::string Cell(const ProfileModel& file, const std::string& model, const std::string& key)
@@ -102,29 +101,32 @@ void CheckCable(const store::Catalogue& catalogue, const std::string& maker, con
     Expect(IsSameFigure(same.Spec2, Figure(file, type, "Spec2", -7)), "the impedance is its key's");
 }
 
+/// Looks at one maker of the list and at one of its models.
 /// @param check  takes a maker, its file and a name from the file.
 template <class Load, class Check>
-void CheckMakers(const MemoryFiles& files, const Names& makers, const std::string& folder, const Load& load,
-                 const Check& check)
+void CheckMakers(const MemoryFiles& files, const Names& makers, const std::string& folder, unsigned chosen,
+                 const Load& load, const Check& check)
 {
     Expect(makers == MakersIn(files, folder), "makers are the names of their files");
-    for (std::size_t place = 0; place < std::min(makers.size(), kMostAsked); ++place) {
-        const std::string& maker = makers[place];
-        const ProfileModel file(std::string(files.Get(FileOf(files, folder, maker))));
-        Names names = ListedSections(file);
-        std::erase(names, "");
-        Expect(load(maker) == names, "models are the sections of their file");
-        names.resize(std::min(names.size(), kMostAsked));
-        for (const std::string& name : names) {
-            check(maker, file, name);
-        }
+    if (makers.empty()) {
+        return;
+    }
+    const std::string& maker = makers[chosen % makers.size()];
+    const ProfileModel file(std::string(files.Get(FileOf(files, folder, maker))));
+    Names names = ListedSections(file);
+    std::erase(names, "");
+    Expect(load(maker) == names, "models are the sections of their file");
+    if (!names.empty()) {
+        check(maker, file, names[chosen % names.size()]);
     }
 }
 
 /// Asks for a maker and a model that need not be there, while a call fails.
-void CheckAsked(MemoryFiles& files, const store::Catalogue& catalogue, const std::string& maker,
-                const std::string& model, unsigned failing)
+void CheckAsked(MemoryFiles& files, const store::Catalogue& catalogue, Input& input)
 {
+    const std::string maker(input.Record());
+    const std::string model(input.Record());
+    const unsigned failing = input.Byte();
     store::BandTable table;
     std::array<float, 9> figures{};
     files.FailAt(failing, EIO);
@@ -136,6 +138,8 @@ void CheckAsked(MemoryFiles& files, const store::Catalogue& catalogue, const std
     Expect(IsPlainName(maker) || (!losses.Spec1 && !factors.Spec2), "a name that can be no file's has no figures");
     Expect(catalogue.GetDataFileList(model).empty() || model == "Antennas" || model == "Cables",
            "two kinds are listed");
+    Expect(store::Catalogue::IsKFactorMaker(maker, model) == (ProfileModel::StripBlanks(maker) == "TIMES MICROWAVE"),
+           "one maker's cables have K factors");
 }
 
 void Run(Input input)
@@ -146,21 +150,21 @@ void Run(Input input)
     const auto store = std::make_shared<store::ProfileStore>(*files);
     const store::Catalogue catalogue(store::ProgramFolder("/q/Quillon"), store);
 
-    CheckMakers(
-        *files, catalogue.LoadAntennaMakers(), "/q/Antennas/",
-        [&](const std::string& maker) { return catalogue.LoadAntennas(maker); },
-        [&](const auto&... arguments) { CheckModel(catalogue, arguments...); });
-    CheckMakers(
-        *files, catalogue.LoadCableMakers(), "/q/Coax/",
-        [&](const std::string& maker) { return catalogue.LoadCableTypes(maker); },
-        [&](const auto&... arguments) { CheckCable(catalogue, arguments...); });
-    Expect(files->Count() == count, "loading leaves the folders as they are");
-
-    const std::string maker(input.Record());
-    const std::string model(input.Record());
-    CheckAsked(*files, catalogue, maker, model, input.Byte());
-    Expect(store::Catalogue::IsKFactorMaker(maker, model) == (ProfileModel::StripBlanks(maker) == "TIMES MICROWAVE"),
-           "one maker's cables have K factors");
+    const unsigned part = input.Byte();
+    if (part % 3 == 0) {
+        CheckMakers(
+            *files, catalogue.LoadAntennaMakers(), "/q/Antennas/", part / 3,
+            [&](const std::string& maker) { return catalogue.LoadAntennas(maker); },
+            [&](const auto&... arguments) { CheckModel(catalogue, arguments...); });
+    } else if (part % 3 == 1) {
+        CheckMakers(
+            *files, catalogue.LoadCableMakers(), "/q/Coax/", part / 3,
+            [&](const std::string& maker) { return catalogue.LoadCableTypes(maker); },
+            [&](const auto&... arguments) { CheckCable(catalogue, arguments...); });
+    } else {
+        CheckAsked(*files, catalogue, input);
+    }
+    Expect(files->Count() == count || part % 3 == 2, "loading leaves the folders as they are");
     Expect(files->IsAllClosed(), "all files are closed");
 }
 

@@ -42,7 +42,7 @@ public:
         if (!record.starts_with('\x1D') || record.size() < 2) {
             return std::string(record);
         }
-        constexpr std::size_t kLongest = 4096;
+        constexpr std::size_t kLongest = 2400;
         const auto count = static_cast<unsigned char>(record[1]);
         record.remove_prefix(2);
         std::string text;

@@ -41,9 +41,9 @@ def read_seeds():
         name, key = names_of(section)
         for part in b"\0\1\2":
             yield section + RECORD + bytes([part]) + name + FIELD + key + FIELD + b"none " + FIELD + b"\x14"
-    many = b"".join(b"[%d]\n" % number for number in range(40))
+    many = b"".join(b"[S%d]\n" % number for number in range(40))
     for part in b"\0\1\2":
-        yield many + b"a=1\n" + RECORD + bytes([part]) + b"39" + FIELD + b"a"
+        yield many + b"a=1\n" + RECORD + bytes([part]) + b"s39" + FIELD + b"a"
         yield REPEAT + b"\xff[a quite long name of a section]\nkey=1\n" + RECORD + bytes([part])
         yield b"[s]\n" + RECORD + bytes([part]) + b"s"
 
@@ -59,31 +59,37 @@ def write_seeds():
             yield bytes([state | place]) + text + RECORD + RECORD.join([b"b", *chosen[:3], b"g", b"e"])
     for text in texts:
         yield b"\xff" + text + RECORD + b"B" + FIELD + b"Gain20" + FIELD + b"1" + RECORD + b"C" + FIELD + FIELD
+    for state in (0x01, 0x05, 0x29):
+        for call in range(16):
+            yield bytes([state]) + texts[1] + RECORD + bytes([ord("0") + call, 0]) + RECORD + steps[0] + RECORD + steps[1]
     for call in range(40):
         yield b"\0" + texts[1] + RECORD + bytes([ord("0") + call, call]) + RECORD + steps[0] + RECORD + steps[1]
 
 
 def catalogue_seeds():
     for letter, maker, section in shipped():
-        yield letter + maker + b".DAT" + FIELD + section + RECORD + RECORD + maker + RECORD + names_of(section)[0]
+        yield letter + maker + b".DAT" + FIELD + section + RECORD + RECORD + (b"\0" if letter == b"A" else b"\1")
+        yield letter + maker + b".DAT" + FIELD + section + RECORD + RECORD + b"\2" + maker + RECORD + names_of(section)[0]
     for letter in b"LPDlpd":
-        yield bytes([letter]) + b"X.DAT" + FIELD + b"Y.dat" + RECORD + b"AY.dat" + FIELD + b"[m]\nGain20=1\n" + RECORD
+        yield bytes([letter]) + b"X.DAT" + FIELD + b"Y.dat" + RECORD + b"AY.dat" + FIELD + b"[m]\nGain20=1\n" + RECORD + RECORD + b"\3"
+        yield bytes([letter]) + b"X.DAT" + FIELD + b"Y.dat" + RECORD + b"aY.dat" + FIELD + b"[m]\nLoss1=1\n" + RECORD + RECORD + b"\1"
     for maker in (b"AB", b"x/y", b""):
         for failing in range(12):
-            yield (b"AAb.dat" + FIELD + b"[m]\nGain20=1\n" + RECORD + b"AaB.dat" + FIELD + RECORD + RECORD + maker + RECORD
+            yield (b"AAb.dat" + FIELD + b"[m]\nGain20=1\n" + RECORD + b"AaB.dat" + FIELD + RECORD + RECORD + b"\2" + maker + RECORD
                    + b"Cables" + RECORD + bytes([failing]))
-    yield b"AX.DAT" + FIELD + REPEAT + b"\xff[a quite long name of a section]\nGain20=1\n" + RECORD
 
 
 def pair_seeds():
     whole = CHANGED_PAIR + RECORD
-    yield whole + b"Other" + RECORD + b"Home"
+    for part in b"\0\1":
+        yield whole + b"Other" + RECORD + b"Home" + RECORD + bytes([part])
+    yield CHANGED_PAIR + b"\2=Other" + RECORD + b"Home" + RECORD + b"Home" + RECORD + b"\0"
     for line in range(LINES_OF_A_PAIR):
         for value in (b"", b"=", b"=abc", b"=1e39", b"=-40000", b"=" + b"9" * 50, b'="2"', b"=x\0y", b"=+1"):
-            yield CHANGED_PAIR + bytes([line]) + value + RECORD + b"N"
+            yield CHANGED_PAIR + bytes([line]) + value + RECORD + b"N" + RECORD + RECORD + b"\1"
     for name in (b"Systems", b"Antennas", b"Coax", b"other"):
-        yield whole + b"N" + RECORD + RECORD + b"S" + FIELD + b"K" + FIELD + b"v" + FIELD + name
-    yield whole + b"N" + RECORD + RECORD + b"S" + FIELD + b"k" * 256 + FIELD + b"v"
+        yield whole + b"N" + RECORD + RECORD + b"\7S" + FIELD + b"K" + FIELD + b"v" + FIELD + name
+    yield whole + b"N" + RECORD + RECORD + b"\7S" + FIELD + b"k" * 256 + FIELD + b"v"
     yield whole + b"n" * 300
     yield b"[SavedSystems]\nSystem:1=a\nSYSTEM:1=b\nSystem:2='a' \n[a]\nSystem1CoaxLoss=1\n" + RECORD + b"b"
 
@@ -93,7 +99,7 @@ def number_seeds():
         for mask in range(128, 144):
             yield bytes([mask]) + text + RECORD
     for number in range(16):
-        yield bytes([number]) + b"\1" + bytes([number]) + struct.pack(">h", number * 9) + b"##0.00"
+        yield bytes([number]) + b"\1" + bytes([number]) + struct.pack(">h", number * 16) + b"##0.00"
         yield bytes([number]) + b"\0" + struct.pack(">fh", 1.1 ** (number * 8 - 64), 48 + number)
 
 
@@ -119,6 +125,9 @@ def name_seeds():
                + bytes([0, failing]))
         yield (b"\0\x02\x34\2\0\5" + b"KLM" + RECORD + b"KT" + RECORD + b"AKLM.DAT" + FIELD + b"[KT]\nGain20=7\n" + RECORD
                + b"AANTENNAS.ZEP" + FIELD + b"[KLM]\nDateCreated=1\n" + RECORD + bytes([0, failing]))
+    for maker in (b"\xc1\x81", b"\xe0\x81\x81", b"\xe0\x82\xac", b"\xff", b"\xe2\x82"):
+        yield b"\0\0\0" + maker + RECORD + maker + RECORD
+    yield b"\0\0\0KLM" + RECORD + b"a" + RECORD + b"L.KLM.DAT.tmp" + FIELD + b"KLM.DAT" + RECORD + b"D.ANTENNAS.ZEP.tmp" + FIELD + RECORD
     for target in (b"KLM.DAT", b"none", b"other"):
         yield b"\0\0\0KLM" + RECORD + b"a" + RECORD + b"LKLM.DAT" + FIELD + target + RECORD + b"A.other.tmp" + FIELD + RECORD
     yield b"\1\0\0KLM" + RECORD + "šœžÿ÷".encode() + RECORD + b"AKLM.DAT" + FIELD + b"[\x9a\x9c\x9e\xff\xf7]\n" + RECORD

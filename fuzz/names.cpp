@@ -242,18 +242,28 @@ void CheckFaults(Editor& editor, const std::string& maker, const std::string& ty
     Disturb(editor, maker, failing, [&] { return commands.UpdateIndex(maker, kToday); });
 }
 
-/// Of all files only temporary ones that the program itself could have left may go.
+Names FilesOf(const Editor& editor)
+{
+    Names files = editor.files.NamesIn("/q/");
+    std::erase_if(files, [&editor](const std::string& name) {
+        return editor.files.KindOf("/q/" + name) != MemoryFiles::Kind::File;
+    });
+    return files;
+}
+
+/// Of all files only temporary ones that the program itself could have left may go, and no links.
 void CheckSweep(Editor& editor)
 {
     editor.files.Put("/q/.QuillonSystems.dat.tmp", "half a fi");
-    Names before = editor.files.NamesIn("/q/");
+    Names gone = FilesOf(editor);
+    const std::size_t others = editor.files.Count() - gone.size();
     store::RemoveStaleFiles(editor.files, editor.folder);
-    const Names after = editor.files.NamesIn("/q/");
-    std::erase_if(before, [&after](const std::string& name) { return std::ranges::find(after, name) != after.end(); });
-    Expect(!before.empty(), "a temporary file is swept away");
-    for (const std::string& name : before) {
-        const std::size_t slash = name.rfind('/');
-        Expect(name.at(slash + 1) == '.' && name.ends_with(".tmp"), "nothing but temporary files is swept away");
+    const Names left = FilesOf(editor);
+    Expect(editor.files.Count() - left.size() == others, "neither links nor folders are swept away");
+    std::erase_if(gone, [&left](const std::string& name) { return std::ranges::find(left, name) != left.end(); });
+    Expect(!gone.empty(), "a temporary file is swept away");
+    for (const std::string& name : gone) {
+        Expect(name.at(name.rfind('/') + 1) == '.' && name.ends_with(".tmp"), "nothing but temporary files goes");
     }
 }
 

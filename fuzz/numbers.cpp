@@ -146,7 +146,10 @@ void Run(Input input)
         return CheckTexts(engine::NumberFromText(text), knownMask);
     }
     const float value = input.Float();
-    CheckKeys(input.Short());
+    const int firstKey = input.Short();
+    for (int key = firstKey; key < firstKey + 16; ++key) {
+        CheckKeys(key);
+    }
     CheckSpins(value);
     CheckIntegers(static_cast<double>(value));
     CheckIntegers(static_cast<double>(value) * 10);

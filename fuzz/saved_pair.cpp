@@ -197,7 +197,8 @@ void CheckRoundTrip(Saved& saved, const store::SystemPair& pair, const std::stri
     Expect(saved.systems.SystemExists(name) == store::SavedSystems::Slot{slot.number, true}, "it has its place");
 }
 
-void CheckPair(Saved& saved, const ProfileModel& file, const std::string& name, const std::string& newName)
+void CheckPair(Saved& saved, const ProfileModel& file, const std::string& name, const std::string& newName,
+               bool isWritten)
 {
     const auto loaded = saved.systems.ReadPair(name);
     const std::string damaged = FirstDamaged(file, name);
@@ -214,7 +215,9 @@ void CheckPair(Saved& saved, const ProfileModel& file, const std::string& name, 
         CheckFigures(pair[system]);
         Expect(names[system] == store::NamesOf(pair[system]), "names are the pair's");
     }
-    CheckRoundTrip(saved, pair, newName);
+    if (isWritten) {
+        CheckRoundTrip(saved, pair, newName);
+    }
 }
 
 void CheckDirect(Saved& saved, const std::string& section, const std::string& key, std::string_view value)
@@ -238,8 +241,10 @@ void Run(Input input)
     if (name.empty() && !names.empty()) {
         name = names.front();
     }
-    CheckPair(saved, file, name, newName);
-    if (!input.IsEmpty()) {
+    const unsigned part = input.Byte() % 8; // writing takes ten times as long as loading
+    if (part < 6) {
+        CheckPair(saved, file, name, newName, part == 0);
+    } else {
         const std::string section(input.Field());
         const std::string key(input.Field());
         CheckDirect(saved, section, key, input.Field());
