@@ -3,6 +3,15 @@
 #include "store/profile_lines.h"
 
 namespace quillon::store {
+namespace {
+
+/// A name that alone is longer than all that is asked for is not copied as a whole.
+void AddName(std::string& names, std::string_view name, std::size_t enough)
+{
+    names.append(name.substr(0, enough)).push_back('\0');
+}
+
+} // namespace
 
 std::optional<std::string_view> PrivateProfile::Value(std::string_view section, std::string_view key) const
 {
@@ -16,7 +25,7 @@ std::string PrivateProfile::SectionNames(std::size_t enough) const
     for (std::size_t place = 0; place < Index().Count() && names.size() < enough; ++place) {
         const std::string_view name = Index().Name(m_bytes, place);
         if (!name.empty()) {
-            names.append(name).push_back('\0');
+            AddName(names, name, enough);
         }
     }
     return names;
@@ -42,7 +51,7 @@ std::string PrivateProfile::KeyNames(std::string_view section, std::size_t enoug
     std::string names;
     WalkEntries(section, [&names, enough](const LineSpan& /*line*/, const ParsedLine& entry) {
         if (names.size() < enough) {
-            names.append(entry.name).push_back('\0');
+            AddName(names, entry.name, enough);
         }
         return names.size() < enough;
     });

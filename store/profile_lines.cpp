@@ -7,17 +7,29 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 
-bool IsLineEnd(char character) noexcept
+/// Looked through first for the end of a line; twice as much each time that it is not there.
+constexpr std::size_t kUsualLine = 64;
+
+/// Offset of the first line end from an offset on, or the text's size. Each of the two characters is looked for by
+/// itself, which is quick, and never far beyond the other one.
+std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
 {
-    return character == '\n' || character == '\r';
+    for (std::size_t length = kUsualLine; begin < text.size(); begin += length, length *= 2) {
+        const std::string_view part = text.substr(begin, length);
+        const std::string_view line = part.substr(0, part.find('\n'));
+        const std::size_t end = std::min(line.find('\r'), line.size());
+        if (end < part.size()) {
+            return begin + end;
+        }
+    }
+    return text.size();
 }
 
 } // namespace
 
 LineSpan LineAt(std::string_view text, std::size_t begin) noexcept
 {
-    const auto* const found = std::find_if(text.begin() + static_cast<std::ptrdiff_t>(begin), text.end(), IsLineEnd);
-    const auto end = static_cast<std::size_t>(found - text.begin());
+    const std::size_t end = FindLineEnd(text, begin);
     if (end == text.size()) {
         return {begin, end, end};
     }

@@ -65,6 +65,8 @@ TEST(PrivateProfile, StopsListingOnceThereIsEnough)
     const PrivateProfile profile("[aa]\nk1=\nk2=\nk3=\n[bb]\n[cc]\n");
     EXPECT_EQ(profile.SectionNames(4), "aa\0bb\0"s);
     EXPECT_EQ(profile.KeyNames("aa", 3), "k1\0"s);
+    EXPECT_EQ(profile.SectionNames(1), "a\0"s) << "no more of a name than is asked for";
+    EXPECT_EQ(profile.KeyNames("aa", 1), "k\0"s);
     EXPECT_EQ(profile.SectionNames(0), "");
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace quillon::store {
 namespace {
 
@@ -44,6 +46,19 @@ INSTANTIATE_TEST_SUITE_P(Ends, LineAtRow, ::testing::Values(
     EndRow{"NUL does not end a line", "a\0b\nc"sv, 0, 3, 4}), support::RowName());
 
 // clang-format on
+
+TEST(LineAt, FindsTheFirstOfTwoEndsInALineOfAnyLength)
+{
+    for (const std::string end : {"\n", "\r", "\r\n"}) {
+        for (std::size_t length = 0; length < 1000; ++length) {
+            const std::string text = "[a]" + std::string(length, '[') + end + "b\rc\n" + std::string(1000, 'd');
+            const LineSpan line = LineAt(text, 3);
+            ASSERT_EQ(line.end, 3 + length);
+            ASSERT_EQ(line.next, 3 + length + end.size());
+            ASSERT_EQ(LineAt(text, line.next + 4).end, text.size());
+        }
+    }
+}
 
 struct LineRow
 {
