@@ -39,7 +39,7 @@ std::size_t CharacterLength(std::string_view text)
     if (static_cast<unsigned char>(text.front()) < 0x80) {
         return 1;
     }
-    const auto own = std::ranges::find_if(kOwn, [text](std::string_view one) { return text.starts_with(one); });
+    const auto* const own = std::ranges::find_if(kOwn, [text](std::string_view one) { return text.starts_with(one); });
     if (own != kOwn.end()) {
         return own->size();
     }
