@@ -127,7 +127,7 @@ def name_seeds():
                + b"AANTENNAS.ZEP" + FIELD + b"[KLM]\nDateCreated=1\n" + RECORD + bytes([0, failing]))
     for maker in (b"\xc1\x81", b"\xe0\x81\x81", b"\xe0\x82\xac", b"\xff", b"\xe2\x82"):
         yield b"\0\0\0" + maker + RECORD + maker + RECORD
-    yield b"\0\0\0KLM" + RECORD + b"a" + RECORD + b"L.KLM.DAT.tmp" + FIELD + b"KLM.DAT" + RECORD + b"D.ANTENNAS.ZEP.tmp" + FIELD + RECORD
+    yield b"\0\0\0KLM" + RECORD + b"a" + RECORD + b"L.OTHER.DAT.tmp" + FIELD + b"KLM.DAT" + RECORD + b"D.ANTENNAS.ZEP.tmp" + FIELD + RECORD
     for target in (b"KLM.DAT", b"none", b"other"):
         yield b"\0\0\0KLM" + RECORD + b"a" + RECORD + b"LKLM.DAT" + FIELD + target + RECORD + b"A.other.tmp" + FIELD + RECORD
     yield b"\1\0\0KLM" + RECORD + "šœžÿ÷".encode() + RECORD + b"AKLM.DAT" + FIELD + b"[\x9a\x9c\x9e\xff\xf7]\n" + RECORD

@@ -43,7 +43,7 @@ Digits FromExponential(std::string_view text)
             all += character;
         }
     }
-    const int point = 1 + std::atoi(std::string(text.substr(mark + 1)).c_str());
+    const int point = 1 + static_cast<int>(std::strtol(std::string(text.substr(mark + 1)).c_str(), nullptr, 10));
     if (point <= 0) {
         all.insert(0, static_cast<std::size_t>(-point), '0');
     } else if (all.size() < static_cast<std::size_t>(point)) {
