@@ -11,7 +11,8 @@ void DesktopHooks::Beep()
 
 void DesktopHooks::LetPendingEventsRun()
 {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // A timer may stand for a person, too: it clicks the button whose access key was pressed, and repeats a held arrow.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::X11ExcludeTimers);
 }
 
 } // namespace quillon::ui

@@ -4,7 +4,8 @@
 
 namespace quillon::ui {
 
-/// The desktop's beep, and pending events without user input: no keystroke can change a record during a computation.
+/// The desktop's beep, and pending events without user input and timers: neither a keystroke nor what it set going can
+/// change a record, or begin another computation, during a computation.
 class DesktopHooks : public engine::EngineHooks
 {
 public:

@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QFontMetricsF>
+#include <QInputMethodEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
 
@@ -116,6 +117,16 @@ bool NumberBox::event(QEvent* event)
         ApplyFont();
     }
     return QLineEdit::event(event);
+}
+
+void NumberBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    // Qt keeps keys out of a read-only box, but not what dead keys and input methods put together.
+    if (isReadOnly()) {
+        event->ignore();
+        return;
+    }
+    QLineEdit::inputMethodEvent(event);
 }
 
 void NumberBox::initStyleOption(QStyleOptionFrame* option) const

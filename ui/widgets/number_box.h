@@ -44,6 +44,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void initStyleOption(QStyleOptionFrame* option) const override;
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
 
 namespace quillon::ui {
@@ -16,6 +19,20 @@ TEST(DesktopHooks, PendingEventsRunBeforeTheCallReturns)
     hooks.LetPendingEventsRun();
 
     EXPECT_TRUE(ran);
+}
+
+TEST(DesktopHooks, ButtonsPressedByTheirAccessKeysAreNotClicked)
+{
+    DesktopHooks hooks;
+    QPushButton button;
+    const QSignalSpy clicks(&button, &QPushButton::clicked);
+    button.animateClick();
+    QTest::qSleep(150); // longer than the animation
+
+    hooks.LetPendingEventsRun();
+    EXPECT_TRUE(clicks.isEmpty());
+
+    EXPECT_TRUE(QTest::qWaitFor([&clicks] { return !clicks.isEmpty(); })) << "later it is";
 }
 
 } // namespace

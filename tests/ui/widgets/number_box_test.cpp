@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QInputMethodEvent>
 #include <QPixmap>
 
 namespace quillon::ui {
@@ -139,6 +140,20 @@ TEST(NumberBox, ReadOnlyHasTheWindowsColour)
     EXPECT_EQ(box.grab().toImage().pixelColor(80, 15), box.palette().color(QPalette::Window));
     box.setReadOnly(false);
     EXPECT_EQ(box.grab().toImage().pixelColor(80, 15), box.palette().color(QPalette::Base));
+}
+
+TEST(NumberBox, ReadOnlyTakesNoComposedText)
+{
+    NumberBox box(5);
+    box.setText(QStringLiteral("1.1"));
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("9"));
+    box.setReadOnly(true);
+    QApplication::sendEvent(&box, &composed);
+    EXPECT_EQ(box.text(), u"1.1");
+    box.setReadOnly(false);
+    QApplication::sendEvent(&box, &composed);
+    EXPECT_EQ(box.text(), u"1.19");
 }
 
 TEST(NumberBox, SetByArrowsOnlyIsReadOnlyAndLooksLive)
