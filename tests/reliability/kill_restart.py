@@ -171,14 +171,18 @@ def main():
     for worker in workers:
         worker.start()
     counts = dict.fromkeys(KINDS, 0)
-    for number, findings in gather(workers, results, arguments.count):
-        for finding in findings:
-            print(f"seed {arguments.seed}, round {number}: {finding}", flush=True)
-            counts[next(kind for kind in KINDS if finding.startswith(kind))] += 1
+    kills = 0
+    try:
+        for number, findings in gather(workers, results, arguments.count):
+            kills += 1
+            for finding in findings:
+                print(f"seed {arguments.seed}, round {number}: {finding}", flush=True)
+                counts[next(kind for kind in KINDS if finding.startswith(kind))] += 1
+    finally:
+        print(f"seed {arguments.seed}: {kills:,} kills and starts, " +
+              ", ".join(f"{count} x {kind}" for kind, count in counts.items()), flush=True)
     for worker in workers:
         worker.join()
-    print(f"seed {arguments.seed}: {arguments.count:,} kills, " +
-          ", ".join(f"{count} x {kind}" for kind, count in counts.items()))
     return 1 if any(counts.values()) else 0
 
 

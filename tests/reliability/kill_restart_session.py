@@ -13,8 +13,8 @@ SAVE = "Save Current Antenna System"
 UPDATE = "Save Antenna System"
 EDITOR = "Manage Antenna Database"
 
-START_LIMIT = 20  # seconds, on a machine that does much else
-ANSWER_LIMIT = 20
+START_LIMIT = 60  # seconds, on a machine that does much else
+ANSWER_LIMIT = 60
 
 
 class NotSeen(Exception):

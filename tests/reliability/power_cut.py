@@ -203,6 +203,16 @@ def run_disk(tools, work, seed, number, count, figures):
                 figures.saves += saves.count
 
 
+def run_disks(arguments, work, figures):
+    for name in ("served", "live", "again"):
+        (work / name).mkdir()
+    number = 0
+    while figures.cuts < arguments.count:
+        cuts = min(CUTS_PER_DISK, arguments.count - figures.cuts)
+        run_disk(arguments.build / "tests" / "reliability", work, arguments.seed, number, cuts, figures)
+        number += 1
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("build", type=pathlib.Path)
@@ -214,15 +224,11 @@ def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # nothing stays mounted
     figures = Figures()
     memory = "/dev/shm" if os.path.isdir("/dev/shm") else None
-    with tempfile.TemporaryDirectory(prefix="quillon-power-", dir=memory) as work:
-        for name in ("served", "live", "again"):
-            (pathlib.Path(work) / name).mkdir()
-        number = 0
-        while figures.cuts < arguments.count:
-            cuts = min(CUTS_PER_DISK, arguments.count - figures.cuts)
-            run_disk(arguments.build / "tests" / "reliability", pathlib.Path(work), arguments.seed, number, cuts, figures)
-            number += 1
-    print(f"seed {arguments.seed}: {figures.line()}")
+    try:
+        with tempfile.TemporaryDirectory(prefix="quillon-power-", dir=memory) as work:
+            run_disks(arguments, pathlib.Path(work), figures)
+    finally:
+        print(f"seed {arguments.seed}: {figures.line()}", flush=True)
     return 1 if figures.findings or figures.at_risk == 0 else 0
 
 
