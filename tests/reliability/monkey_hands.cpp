@@ -12,7 +12,8 @@ QWidget* FrontWindow()
 {
     for (QWidget* window :
          {QApplication::activePopupWidget(), QApplication::activeModalWidget(), QApplication::activeWindow()}) {
-        if (window != nullptr) {
+        // Without a window manager, a window that was hidden may still count as the active one.
+        if (window != nullptr && window->window()->isVisible()) {
             return window->window();
         }
     }
@@ -22,8 +23,8 @@ QWidget* FrontWindow()
 QWindow* KeyboardWindow()
 {
     QWindow* window = QGuiApplication::focusWindow();
-    if (window == nullptr && FrontWindow() != nullptr) {
-        window = FrontWindow()->windowHandle();
+    if (window == nullptr || !window->isVisible()) {
+        window = FrontWindow() != nullptr ? FrontWindow()->windowHandle() : nullptr;
     }
     return window;
 }
