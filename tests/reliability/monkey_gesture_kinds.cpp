@@ -73,7 +73,8 @@ void Gestures::Move()
 
 void Gestures::Turn()
 {
-    if (QWidget* widget = AnyWidget()) {
+    QWidget* focused = QApplication::focusWidget();
+    if (QWidget* widget = focused != nullptr && Happens(2) ? focused : AnyWidget()) {
         const QPointer<QWindow> window(widget->window()->windowHandle());
         const QPoint local = widget->mapTo(widget->window(), PointIn(*widget));
         const QPoint angle(Happens(8) ? 120 : 0, (Below(9) - 4) * (Happens(4) ? 15 : 120));

@@ -8,7 +8,6 @@
 #include "ui/widgets/object_names.h"
 
 #include <QLabel>
-#include <QLineEdit>
 
 #include <array>
 #include <utility>
@@ -150,10 +149,11 @@ void ShownFigures::AddLines(const QWidget& window, SystemId system)
     add("lblAntennaModel", [](const QString& text, const SystemData& data) { return Holds(data.AntennaModel, text); });
     add("lblCoaxBrand", [](const QString& text, const SystemData& data) { return Holds(data.CoaxBrand, text); });
     add("lblCoaxType", [](const QString& text, const SystemData& data) { return Holds(data.CoaxModel, text); });
-    const auto* typed = &Find<QLineEdit>(window, QStringLiteral("txtAntennaGain"));
-    add("lblAntennaBand", [this, system, typed](const QString& text, const SystemData& data) {
+    const auto* typing = &Find<QWidget>(window, QStringLiteral("FrameAntennaGain"));
+    add("lblAntennaBand", [this, system, typing](const QString& text, const SystemData& data) {
         const std::string gain = engine::ShortestText(data.AntennaGain, QString(m_separator).toStdString());
-        const bool isTyped = system == SystemId::One && Number(typed->text()) == std::optional(data.AntennaGain);
+        // A gain that is typed is not told here.
+        const bool isTyped = system == SystemId::One && !typing->isHidden();
         return text.isEmpty() || isTyped || text == QStringLiteral("Gain = %1 dbd").arg(QString::fromStdString(gain));
     });
 }
