@@ -6,7 +6,7 @@
 #include "ui/platform/question_box.h"
 #include "ui/table/show_table.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QUrl>
 
 namespace quillon {
@@ -22,6 +22,10 @@ Dialogs::Dialogs(const DialogParts& parts)
 
 void Dialogs::Show(ui::Command command)
 {
+    // The click that an access key begins ends a moment later, when a dialog may be open that came in between.
+    if (QApplication::activeModalWidget() != nullptr) {
+        return;
+    }
     switch (command) {
     case ui::Command::SaveSystem:
         return SaveSystem().Open();

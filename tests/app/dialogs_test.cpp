@@ -75,5 +75,21 @@ TEST_F(DialogsTest, CalculatorAndLinksAreStartedOutside)
     EXPECT_EQ(StartedBy(Command::Tarvel), "https://tarvel.example/");
 }
 
+TEST_F(DialogsTest, ACommandThatComesWhileADialogIsOpenOpensNothing)
+{
+    Give(ui::Command::LoadSystem, [this](const QDialog& dialog) {
+        // What would open goes away by itself, so that the test ends.
+        QTimer::singleShot(0, Window(), [&dialog] {
+            if (auto* other = qobject_cast<QDialog*>(QApplication::activeModalWidget()); other != &dialog) {
+                other->reject();
+            }
+        });
+        emit Main().CommandGiven(ui::Command::ShowDBTable);
+        emit Main().CommandGiven(ui::Command::SaveSystem);
+        EXPECT_EQ(SaveDialog(), nullptr);
+        EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+    });
+}
+
 } // namespace
 } // namespace quillon

@@ -115,8 +115,9 @@ void MonkeyRun::timerEvent(QTimerEvent* event)
     const long step = ++m_steps;
     for (int count = 1 + static_cast<int>(m_gestures.Random()() % kLargestBurst); count > 0; --count) {
         if (const auto wrong = Look()) {
-            std::cout << "seed " << m_seed << ", event " << m_journal.Events() << ": " << *wrong << ", in front: "
-                      << (m_front != nullptr ? NameOf(*m_front).toStdString() : "nothing") << '\n' << std::flush;
+            std::cout << "seed " << m_seed << ", event " << m_journal.Events() << ": " << *wrong
+                      << ", in front: " << (m_front != nullptr ? NameOf(*m_front).toStdString() : "nothing") << '\n'
+                      << std::flush;
             m_isBroken = true;
         }
         if (IsOver()) {
@@ -199,7 +200,7 @@ std::optional<std::string> MonkeyRun::Look()
     if (auto wrong = m_files.Check()) {
         return wrong;
     }
-    if (m_files.IsPermitted() && qobject_cast<QMessageBox*>(m_front) == nullptr) {
+    if (m_files.IsPermitted() && qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) {
         m_files.Revoke();
     }
     if (auto wrong = WindowOffScreen()) {
