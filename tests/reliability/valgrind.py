@@ -3,7 +3,7 @@
 
 tests/reliability/valgrind.py BUILD_FOLDER [--all]
 
-Without --all the tests that work on files of many megabytes or on thousands of damaged ones are left out.
+Without --all the tests that work on files of many megabytes or on thousands of files or pairs are left out.
 """
 
 import argparse
@@ -27,7 +27,8 @@ EXECUTABLES = {
 # What takes long here, as patterns of the test framework's filter.
 LONG = {
     "engine": [],
-    "store": ["DamagedFiles.*", "ProfileVectors.*", "*TooLargeToReadBack", "*LargestFile*"],
+    "store": ["DamagedFiles.*", "ProfileVectors.*", "*TooLargeToReadBack", "*LargestFile*", "*HugeText*",
+              "*.ProcessKilled*", "*.AnyPair*", "*.TenThousandPairs*"],
 }
 
 
