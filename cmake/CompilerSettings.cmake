@@ -16,9 +16,23 @@ if(QUILLON_WARNINGS_AS_ERRORS)
 endif()
 
 if(QUILLON_SANITIZE)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "QUILLON_SANITIZE needs clang++: other compilers do not check implicit conversions.")
+    endif()
+    set(sanitizers -fsanitize=address,undefined,float-divide-by-zero,implicit-conversion)
+    target_compile_options(quillon_settings INTERFACE ${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer
+        "-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/sanitizer_ignorelist.txt")
+    target_link_options(quillon_settings INTERFACE ${sanitizers})
+endif()
+
+# What makes a mistake that is left hard to abuse; the sanitizers watch closer than that. The checked buffer lengths need an
+# optimising compiler.
+include(CheckPIESupported)
+check_pie_supported()
+if(NOT QUILLON_SANITIZE AND NOT QUILLON_COVERAGE)
     target_compile_options(quillon_settings INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(quillon_settings INTERFACE -fsanitize=address,undefined)
+        -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    target_link_options(quillon_settings INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
 endif()
 
 if(QUILLON_COVERAGE)
