@@ -95,7 +95,7 @@ FoundName FindName(FileCalls& calls, const fs::path& path)
 std::optional<fs::path> FollowLinks(FileCalls& calls, const fs::path& path)
 {
     fs::path target = path;
-    for (int followed = 0; followed < kMostLinks; ++followed) {
+    for (int followed = 0; followed <= kMostLinks; ++followed) {
         std::array<char, PATH_MAX> next{};
         const ssize_t length = calls.ReadLink(target.c_str(), next.data(), next.size());
         if (length < 0) {

@@ -5,7 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <string>
 #include <sys/stat.h>
+#include <vector>
 
 namespace quillon::store {
 namespace {
@@ -128,6 +132,18 @@ TEST_F(FileNames, AreNotFollowedInACircle)
     fs::create_symlink("b", m_folder / "a");
     fs::create_symlink("a", m_folder / "b");
     EXPECT_EQ(FollowLinks(m_calls, m_folder / "a"), std::nullopt);
+}
+
+TEST_F(FileNames, AreFollowedOverAsManyLinksAsTheSystemFollows)
+{
+    m_folder.Put("0", "");
+    for (int link = 1; link <= 41; ++link) {
+        fs::create_symlink(std::to_string(link - 1), m_folder / std::to_string(link));
+    }
+    EXPECT_EQ(FollowLinks(m_calls, m_folder / "40"), m_folder / "0");
+    EXPECT_TRUE(std::ifstream(m_folder / "40").is_open());
+    EXPECT_EQ(FollowLinks(m_calls, m_folder / "41"), std::nullopt);
+    EXPECT_FALSE(std::ifstream(m_folder / "41").is_open());
 }
 
 TEST_F(FileNames, AreUnknownWhenTheSystemCannotTell)
