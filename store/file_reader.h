@@ -8,9 +8,8 @@
 
 namespace quillon::store {
 
-/// Longer files are neither read nor written. The longest that people have are some hundred kilobytes; with this length
-/// a file of nothing but section headers, and the change of a file, still take less than 100 MB.
-inline constexpr std::size_t kLargestFile = std::size_t{16} * 1024 * 1024;
+/// Longer files are neither read nor written.
+inline constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;
 
 /// What tells one state of a file from another.
 struct FileStamp

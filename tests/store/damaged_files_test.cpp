@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <random>
 #include <string>
 
@@ -137,7 +136,7 @@ struct PieceRow
     const char* piece;
 };
 
-/// Texts of a size at which anything but one pass over them would take minutes.
+/// Texts of a size at which anything but one pass over them would not end before the test runner's patience does.
 class HugeText : public ::testing::TestWithParam<PieceRow>
 {
 protected:
@@ -156,7 +155,6 @@ protected:
 
 TEST_P(HugeText, IsReadListedAndWrittenInOnePass)
 {
-    const auto start = std::chrono::steady_clock::now();
     PrivateProfile profile(Repeat(GetParam().piece));
     (void)profile.SectionNames(2048);
     (void)profile.KeyNames("a", 2048);
@@ -164,7 +162,6 @@ TEST_P(HugeText, IsReadListedAndWrittenInOnePass)
     EXPECT_TRUE(profile.SetValue("the last", "k", "v"));
     EXPECT_EQ(profile.Value("the last", "k"), "v");
     EXPECT_TRUE(profile.RemoveSection("the last"));
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
 }
 
 // clang-format off

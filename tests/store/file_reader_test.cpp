@@ -90,10 +90,10 @@ TEST_F(ReadFileTest, RefusesLinksThatGoRoundInACircle)
 TEST_F(ReadFileTest, ReadsTheLargestFileAndRefusesALargerOne)
 {
     const fs::path file = m_folder.Put("f", "");
-    ASSERT_EQ(::truncate(file.c_str(), 16777216), 0); // 16 MiB
+    ASSERT_EQ(::truncate(file.c_str(), 67108864), 0); // 64 MiB
     EXPECT_EQ(Read("f"), FileState::Regular);
-    EXPECT_EQ(m_bytes.size(), 16777216U);
-    ASSERT_EQ(::truncate(file.c_str(), 16777217), 0);
+    EXPECT_EQ(m_bytes.size(), 67108864U);
+    ASSERT_EQ(::truncate(file.c_str(), 67108865), 0);
     EXPECT_EQ(Read("f"), FileState::Refused);
     EXPECT_EQ(m_bytes, "");
 }

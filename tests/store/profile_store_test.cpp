@@ -189,7 +189,7 @@ TEST_F(ProfileStoreTest, HoldsNoMoreThanTheLargestFilesBytes)
 {
     for (const char* name : {"a", "b"}) {
         m_folder.Put(name, "[s]\nk=1\n");
-        ASSERT_EQ(::truncate((m_folder / name).c_str(), 10'000'000), 0);
+        ASSERT_EQ(::truncate((m_folder / name).c_str(), 40'000'000), 0);
         Settle(m_folder / name);
         EXPECT_EQ(Value(m_folder / name), "1");
     }
@@ -259,10 +259,10 @@ TEST_F(ProfileStoreTest, NeverWritesAFileThatItCannotRead)
 TEST_F(ProfileStoreTest, RefusesAnEditThatMakesAFileTooLargeToReadBack)
 {
     m_folder.Put("f.dat", "[s]\nk=1\n");
-    ASSERT_EQ(::truncate(m_file.c_str(), 16'777'216), 0);
+    ASSERT_EQ(::truncate(m_file.c_str(), 67'108'864), 0);
     EXPECT_FALSE(Write(m_file, "12"));
     EXPECT_TRUE(Write(m_file, "2"));
-    EXPECT_EQ(fs::file_size(m_file), 16'777'216U);
+    EXPECT_EQ(fs::file_size(m_file), 67'108'864U);
 }
 
 TEST_F(ProfileStoreTest, NeverShowsOtherTextThanStandsOnTheDiskWhateverFails)
