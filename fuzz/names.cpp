@@ -119,7 +119,10 @@ void CheckMaker(Editor& editor, const std::string& maker)
     if (isName) {
         const Names makers = editor.catalogue.LoadAntennaMakers();
         Expect(editor.commands.BrandFileExists(maker), "a new maker has a file");
-        Expect(std::ranges::any_of(makers, [&](const auto& one) { return ProfileModel::IsSame(one, maker); }),
+        // A folder of that name stands in a new maker's way, and is no maker.
+        const bool isFile = !isTaken || editor.files.KindOf(PathOf(editor, maker)) == MemoryFiles::Kind::File;
+        Expect(!isFile ||
+                   std::ranges::any_of(makers, [&](const auto& one) { return ProfileModel::IsSame(one, maker); }),
                "a new maker is listed");
     }
 }
