@@ -10,7 +10,6 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <utility>
 
 namespace quillon::store {
@@ -311,49 +310,6 @@ TEST_F(ReplaceFileTest, FailsOnLinksThatGoRoundInACircle)
     fs::create_symlink("f.dat", m_folder / "g.dat");
     EXPECT_FALSE(ReplaceFile(m_calls, m_file, "new"));
     EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "g.dat"}));
-}
-
-TEST(CreateEmptyFile, CreatesTheFile)
-{
-    support::TempFolder folder;
-    FileCalls calls;
-    CreateEmptyFile(calls, folder / "f.dat");
-    EXPECT_EQ(folder.Get("f.dat"), "");
-}
-
-TEST(CreateEmptyFile, BringsFileAndFolderToTheDisk)
-{
-    const support::TempFolder folder;
-    FailingCalls calls;
-    CreateEmptyFile(calls, folder / "f.dat");
-    EXPECT_EQ(calls.Made(), (Names{"open", "open", "fsync", "close", "fsync", "close"}));
-}
-
-TEST(CreateEmptyFile, LeavesNoFileWhenACallFails)
-{
-    const support::TempFolder folder;
-    FailingCalls calls;
-    for (int number = 1; number <= 5; ++number) {
-        calls.FailAt(number, EIO);
-        EXPECT_THROW(CreateEmptyFile(calls, folder / "f.dat"), std::system_error) << number;
-        EXPECT_TRUE(folder.Names().empty()) << number;
-    }
-}
-
-TEST(CreateEmptyFile, ThrowsInAMissingFolder)
-{
-    support::TempFolder folder;
-    FileCalls calls;
-    EXPECT_THROW(CreateEmptyFile(calls, folder / "missing/f.dat"), std::system_error);
-}
-
-TEST(CreateEmptyFile, ThrowsOnAFileThatIsThereAndLeavesIt)
-{
-    support::TempFolder folder;
-    folder.Put("f.dat", "old");
-    FileCalls calls;
-    EXPECT_THROW(CreateEmptyFile(calls, folder / "f.dat"), std::system_error);
-    EXPECT_EQ(folder.Get("f.dat"), "old");
 }
 
 } // namespace
