@@ -8,33 +8,6 @@ from pathlib import Path
 
 SUPPORT = Path(__file__).resolve().parents[1] / "support" / "private_cups"
 
-FILES = """SystemGroup root
-LogFileGroup root
-ServerRoot @/etc
-RequestRoot @/spool
-TempDir @/tmp
-CacheDir @/cache
-StateDir @/run
-ServerBin @/bin
-AccessLog @/log/access
-ErrorLog @/log/error
-PageLog @/log/page
-"""
-SETTINGS = """Listen @/run/cups.sock
-Browsing Off
-DefaultAuthType None
-WebInterface No
-<Location />
-  Order allow,deny
-  Allow all
-</Location>
-<Policy default>
-  <Limit All>
-    Order deny,allow
-    Allow all
-  </Limit>
-</Policy>
-"""
 PRINTER = """<Printer Shack>
 DeviceURI catch:@/caught
 State Idle
@@ -58,7 +31,8 @@ class PrivatePrinter:
         backend = Path(shutil.copy2(SUPPORT / "catch.sh", folder / "bin" / "backend" / "catch"))
         backend.chmod(0o700)
         (folder / "etc" / "ppd" / "Shack.ppd").write_text((SUPPORT / "queue.ppd").read_text().replace("@PAPER@", "A4"))
-        for name, text in (("cups-files.conf", FILES), ("cupsd.conf", SETTINGS), ("printers.conf", PRINTER)):
+        texts = {name: (SUPPORT / name).read_text() for name in ("cups-files.conf", "cupsd.conf")}
+        for name, text in (texts | {"printers.conf": PRINTER}).items():
             (folder / "etc" / name).write_text(text.replace("@", str(folder)))
 
     def __enter__(self):

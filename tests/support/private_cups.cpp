@@ -52,39 +52,6 @@ void Signal(const QProcess& process, int signal)
     }
 }
 
-constexpr const char* kFiles = R"(SystemGroup root
-LogFileGroup root
-ServerRoot @/etc
-RequestRoot @/spool
-TempDir @/tmp
-CacheDir @/cache
-StateDir @/run
-ServerBin @/bin
-AccessLog @/log/access
-ErrorLog @/log/error
-PageLog @/log/page
-)";
-
-constexpr const char* kSettings = R"(LogLevel info
-AccessLogLevel all
-Listen @/run/cups.sock
-Browsing Off
-DefaultAuthType None
-WebInterface No
-<Location />
-  Order allow,deny
-  Allow all
-</Location>
-<Policy default>
-  JobPrivateAccess all
-  JobPrivateValues none
-  <Limit All>
-    Order deny,allow
-    Allow all
-  </Limit>
-</Policy>
-)";
-
 std::string Entry(const PrivateQueue& queue, const std::string& caught)
 {
     std::ostringstream entry;
@@ -129,8 +96,8 @@ void PrivateCups::LayOut(const std::vector<PrivateQueue>& queues, const std::str
     }
     // Without permissions for others, so that the service runs it as the user that these folders belong to.
     fs::permissions(m_folder.Put("bin/backend/catch", SupportFile("catch.sh")), fs::perms::owner_all);
-    m_folder.Put("etc/cups-files.conf", Replaced(kFiles, "@", root));
-    m_folder.Put("etc/cupsd.conf", settings + Replaced(kSettings, "@", root));
+    m_folder.Put("etc/cups-files.conf", Replaced(SupportFile("cups-files.conf"), "@", root));
+    m_folder.Put("etc/cupsd.conf", settings + Replaced(SupportFile("cupsd.conf"), "@", root));
     std::string printers;
     for (const PrivateQueue& queue : queues) {
         printers += Entry(queue, root + "/caught");
