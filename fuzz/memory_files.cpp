@@ -11,33 +11,12 @@
 namespace quillon::fuzz {
 namespace {
 
-constexpr mode_t kFolderMode = 0755;
-constexpr mode_t kFileMode = 0644;
 constexpr mode_t kWriteBit = 0200;
-constexpr int kMostLinks = 40;
 
 int Fail(int error) noexcept
 {
     errno = error;
     return -1;
-}
-
-std::string_view FolderOf(std::string_view path) noexcept
-{
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string_view::npos ? std::string_view() : path.substr(0, slash);
-}
-
-bool IsKnownFolder(std::string_view path) noexcept
-{
-    return path == "/q" || path == "/q/Antennas" || path == "/q/Coax";
-}
-
-void ExpectInside(std::string_view path)
-{
-    const std::string_view name = path.substr(path.rfind('/') + 1);
-    const bool isInside = IsKnownFolder(FolderOf(path)) && name != "." && name != "..";
-    Expect(IsKnownFolder(path) || isInside, "every call stays within the program's folder");
 }
 
 unsigned char EntryType(MemoryFiles::Kind kind) noexcept
@@ -54,85 +33,14 @@ unsigned char EntryType(MemoryFiles::Kind kind) noexcept
     }
 }
 
-mode_t TypeBits(MemoryFiles::Kind kind) noexcept
-{
-    switch (kind) {
-    case MemoryFiles::Kind::Folder:
-        return S_IFDIR;
-    case MemoryFiles::Kind::Link:
-        return S_IFLNK;
-    case MemoryFiles::Kind::Pipe:
-        return S_IFIFO;
-    default:
-        return S_IFREG;
-    }
-}
-
 } // namespace
-
-MemoryFiles::MemoryFiles()
-{
-    Clear();
-}
 
 void MemoryFiles::Clear()
 {
-    m_nodes.clear();
+    MemoryTree::Clear();
     m_open.clear();
-    m_isSettled = true;
     m_chunk = SIZE_MAX;
     FailAt(0, 0);
-    for (const std::string_view folder : {"/q", "/q/Antennas", "/q/Coax"}) {
-        Add(folder, Kind::Folder, kFolderMode);
-    }
-}
-
-void MemoryFiles::Put(std::string_view path, std::string_view bytes, Kind kind)
-{
-    ExpectInside(path);
-    Node* node = Find(path);
-    if (node == nullptr) {
-        node = &Add(path, kind, kFileMode);
-    }
-    node->kind = kind;
-    node->bytes = bytes;
-    node->changed = ++m_clock;
-}
-
-void MemoryFiles::SetMode(std::string_view path, mode_t mode)
-{
-    if (Node* const node = Find(path)) {
-        node->mode = mode;
-    }
-}
-
-std::string_view MemoryFiles::Get(std::string_view path) const
-{
-    const Node* const node = Follow(path);
-    return node != nullptr && node->kind == Kind::File ? std::string_view(node->bytes) : std::string_view();
-}
-
-MemoryFiles::Kind MemoryFiles::KindOf(std::string_view path) const
-{
-    const Node* const node = Find(path);
-    return node != nullptr ? node->kind : Kind::Missing;
-}
-
-bool MemoryFiles::IsFolder(std::string_view path) const
-{
-    const Node* const node = Follow(path);
-    return node != nullptr && node->kind == Kind::Folder;
-}
-
-std::vector<std::string> MemoryFiles::NamesIn(std::string_view folder) const
-{
-    std::vector<std::string> names;
-    for (const Node& node : m_nodes) {
-        if (node.path.size() > folder.size() && node.path.starts_with(folder)) {
-            names.push_back(node.path.substr(folder.size()));
-        }
-    }
-    return names;
 }
 
 void MemoryFiles::FailAt(unsigned number, int error) noexcept
@@ -153,39 +61,10 @@ bool MemoryFiles::Fails() noexcept
     return true;
 }
 
-MemoryFiles::Node* MemoryFiles::Find(std::string_view path) noexcept
-{
-    const auto found = std::ranges::find(m_nodes, path, &Node::path);
-    return found != m_nodes.end() ? &*found : nullptr;
-}
-
-const MemoryFiles::Node* MemoryFiles::Find(std::string_view path) const noexcept
-{
-    const auto found = std::ranges::find(m_nodes, path, &Node::path);
-    return found != m_nodes.end() ? &*found : nullptr;
-}
-
-const MemoryFiles::Node* MemoryFiles::Follow(std::string_view path) const
-{
-    ExpectInside(path);
-    std::string target(path);
-    for (int followed = 0; followed < kMostLinks; ++followed) {
-        const Node* const node = Find(target);
-        if (node == nullptr || node->kind != Kind::Link) {
-            errno = ENOENT;
-            return node;
-        }
-        const std::string_view folder = FolderOf(target);
-        target = std::string(folder).append("/").append(node->bytes);
-    }
-    errno = ELOOP;
-    return nullptr;
-}
-
 MemoryFiles::Node& MemoryFiles::Opened(int descriptor)
 {
-    const auto node = std::ranges::find(m_nodes, Entry(descriptor).inode, &Node::inode);
-    Expect(node != m_nodes.end(), "an open file stands");
+    Node* const node = Find(Entry(descriptor).inode);
+    Expect(node != nullptr, "an open file stands");
     return *node;
 }
 
@@ -194,27 +73,6 @@ MemoryFiles::OpenNode& MemoryFiles::Entry(int descriptor)
     const auto open = std::ranges::find(m_open, descriptor, &OpenNode::descriptor);
     Expect(open != m_open.end(), "calls are made on open files only");
     return *open;
-}
-
-MemoryFiles::Node& MemoryFiles::Add(std::string_view path, Kind kind, mode_t mode)
-{
-    m_nodes.push_back({std::string(path), "", kind, mode, ++m_lastInode, ++m_clock});
-    return m_nodes.back();
-}
-
-int MemoryFiles::Describe(const Node* node, struct stat* status) const noexcept
-{
-    if (node == nullptr) {
-        return -1;
-    }
-    constexpr time_t kLongHence = 4'000'000'000;
-    *status = {};
-    status->st_mode = TypeBits(node->kind) | node->mode;
-    status->st_ino = node->inode;
-    status->st_size = static_cast<off_t>(node->bytes.size());
-    status->st_mtim.tv_nsec = node->changed;
-    status->st_ctim = {m_isSettled ? 0 : kLongHence, node->changed};
-    return 0;
 }
 
 int MemoryFiles::Enter(const Node& node)
@@ -274,7 +132,7 @@ ssize_t MemoryFiles::Write(int descriptor, const void* buffer, std::size_t lengt
     }
     const std::size_t count = std::min(length, m_chunk);
     node.bytes.append(static_cast<const char*>(buffer), count);
-    node.changed = ++m_clock;
+    Touch(node);
     return static_cast<ssize_t>(count);
 }
 
@@ -331,7 +189,7 @@ int MemoryFiles::Rename(const char* from, const char* to)
     if (Find(from) == nullptr) {
         return Fail(ENOENT);
     }
-    std::erase_if(m_nodes, [to](const Node& node) { return node.path == to; });
+    Remove(to);
     Find(from)->path = to;
     return 0;
 }
@@ -346,7 +204,7 @@ int MemoryFiles::Unlink(const char* path)
     if (node == nullptr || node->kind == Kind::Folder) {
         return Fail(node == nullptr ? ENOENT : EISDIR);
     }
-    std::erase_if(m_nodes, [path](const Node& other) { return other.path == path; });
+    Remove(path);
     return 0;
 }
 
@@ -382,7 +240,7 @@ int MemoryFiles::List(const char* path, std::vector<store::FolderEntry>& entries
     if (node == nullptr || node->kind != Kind::Folder) {
         return Fail(ENOTDIR);
     }
-    for (const Node& other : m_nodes) {
+    for (const Node& other : Nodes()) {
         if (FolderOf(other.path) == folder) {
             entries.push_back({other.path.substr(folder.size() + 1), EntryType(other.kind)});
         }
