@@ -17,6 +17,8 @@ namespace quillon::ui {
 namespace {
 
 constexpr std::string_view kRecordLengthMask = "0.0";
+constexpr std::string_view kMetresMask = "0.0";
+constexpr double kMetresPerFoot = 0.3048;
 
 } // namespace
 
@@ -87,6 +89,7 @@ void CoaxDataFrame::TakeConnectorPosition()
 void CoaxDataFrame::ShowRecord()
 {
     ShowFigure(*m_length, Work().Masked(Data().CoaxLength, kRecordLengthMask));
+    TellMetres();
     ShowFigure(*m_connectors, QString::number(Data().Connectors));
     txtNumConnectors_Change();
 }
@@ -111,6 +114,18 @@ void CoaxDataFrame::vsNumConnectors_Change()
 void CoaxDataFrame::txtCoaxLength_Change()
 {
     TakeOver(*m_length, [this](float feet) { Data().CoaxLength = feet; });
+    TellMetres();
+}
+
+void CoaxDataFrame::TellMetres()
+{
+    const Typed<float> feet = ReadNumber(m_length->text(), Work().Locale());
+    if (!feet.value) {
+        m_length->SetHint({});
+        return;
+    }
+    const auto metres = static_cast<float>(*feet.value * kMetresPerFoot);
+    m_length->SetHint(tr("%1 m").arg(Work().Masked(metres, kMetresMask)));
 }
 
 void CoaxDataFrame::txtNumConnectors_Change()

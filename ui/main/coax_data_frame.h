@@ -34,6 +34,8 @@ private:
     void LayOut();
     void Wire();
     void StoreConnectors(std::int16_t count);
+    /// The tool tip of the length follows its text; it has none while the text is no number.
+    void TellMetres();
 
     NumberBox* m_length;
     SpinControl* m_lengthSpin;

@@ -86,6 +86,29 @@ TEST_P(CoaxLength, IsTakenAlsoWhenTheTextStaysTheSame)
     ExpectLength("101", 101);
 }
 
+TEST_P(CoaxLength, IsToldInMetresOfTheFigureThatIsTurnedTo)
+{
+    ClickDown(LengthSpin());
+    EXPECT_EQ(ToolTip(LengthBox()), "30.2 m"); // 99 ft
+}
+
+TEST_P(CoaxLength, IsToldInMetresKeyByKey)
+{
+    Type(LengthBox(), "2");
+    EXPECT_EQ(ToolTip(LengthBox()), "0.6 m");
+    Type("5");
+    EXPECT_EQ(ToolTip(LengthBox()), "7.6 m");
+}
+
+TEST_P(CoaxLength, IsNotToldInMetresWhereItIsNoNumber)
+{
+    Paste(LengthBox(), "12.5abc");
+    EXPECT_EQ(ToolTip(LengthBox()), "“12.5abc” is not a number");
+    Clear(LengthBox());
+    EXPECT_EQ(ToolTip(LengthBox()), "");
+    EXPECT_EQ(AccessibleDescription(LengthBox()), "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Input, CoaxLength, BothSystems(), SystemName());
 
 TEST_F(WindowTest, TurningTheLengthComputesForTheTextAndForTheSpinControlAsGiven)
@@ -94,6 +117,36 @@ TEST_F(WindowTest, TurningTheLengthComputesForTheTextAndForTheSpinControlAsGiven
     ClickUp("vsSystemOneCoaxLength");
     EXPECT_EQ(std::ranges::count(hooks.Record(), 'B'), 2 * 3);
 }
+
+struct MetresRow
+{
+    const char* name;
+    const char* feet;
+    const char* metres;
+};
+
+class Metres : public EachSystemRow<MetresRow>
+{
+};
+
+TEST_P(Metres, AreToldOfTheLengthTyped)
+{
+    Paste(Spelled("txtSystem%CoaxLength"), Case().feet);
+    EXPECT_EQ(ToolTip(Spelled("txtSystem%CoaxLength")), Case().metres);
+    EXPECT_EQ(AccessibleDescription(Spelled("txtSystem%CoaxLength")), Case().metres);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Metres,
+    ::testing::Combine(BothSystems(), ::testing::Values(MetresRow{"rounded up", "100", "30.5 m"},             // 30.48
+                                                        MetresRow{"rounded down", "150.4", "45.8 m"},         // 45.842
+                                                        MetresRow{"half away from zero", "-62.5", "-19.1 m"}, // -19.05
+                                                        MetresRow{"whole", "10000", "3048.0 m"},
+                                                        MetresRow{"below a metre", "1", "0.3 m"}, // 0.3048
+                                                        MetresRow{"nothing", "0", "0.0 m"},
+                                                        MetresRow{"unfinished", "12.", "3.7 m"}, // 3.6576
+                                                        MetresRow{"empty", "", ""})),
+    SystemName());
 
 class Connectors : public EachSystem
 {

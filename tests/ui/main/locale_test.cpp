@@ -37,6 +37,16 @@ TEST_P(CommaLocale, ShowsResultsWithTheComma)
     EXPECT_EQ(AccessibleName(Own("lblERP")), "Antenna System ERP, System " + std::to_string(Number()) + ": 234,40 W");
 }
 
+TEST_P(CommaLocale, TellsTheLengthInMetresWithTheComma)
+{
+    const std::string box = Spelled("txtSystem%CoaxLength");
+    EXPECT_EQ(ToolTip(box), "30,5 m");
+    Paste(box, "32,5");
+    EXPECT_EQ(ToolTip(box), "9,9 m"); // 9.906
+    Paste(box, "32.5");
+    EXPECT_EQ(ToolTip(box), "9,9 m");
+}
+
 TEST_P(CommaLocale, ReadsCatalogueFiguresWithThePointAndShowsTheComma)
 {
     ChooseCoax("CABLEWORKS", "RG-8X");

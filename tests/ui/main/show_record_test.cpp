@@ -94,6 +94,7 @@ TEST_P(ShownRecord, ShowsItsFiguresWithTheirMasks)
     EXPECT_EQ(Text(Own("txtOutputPower")), "3");
     EXPECT_EQ(Text(Own("txtVSWR")), "1.5");
     EXPECT_EQ(Text(Spelled("txtSystem%CoaxLength")), "75.3");
+    EXPECT_EQ(ToolTip(Spelled("txtSystem%CoaxLength")), "23.0 m"); // 22.951
     EXPECT_EQ(Text(Spelled("txtSystem%NumConnectors")), "4");
 }
 
