@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -36,6 +37,19 @@ bool ActsOnPopup(const QKeyEvent& event)
 bool EditsText(const QKeyEvent& event)
 {
     return TypesCharacter(event) || IsOneOf(event, {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Left, Qt::Key_Right});
+}
+
+/// Scrolls whatever a widget lies in until all of it shows.
+void ScrollIntoView(const QWidget& widget)
+{
+    for (QWidget* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(around)) {
+            // Not ensureWidgetVisible, which is content with the caret.
+            const QPoint first = widget.mapTo(area->widget(), QPoint());
+            area->ensureVisible(first.x() + widget.width(), first.y() + widget.height(), 0, 0);
+            area->ensureVisible(first.x(), first.y(), 0, 0);
+        }
+    }
 }
 
 } // namespace
@@ -174,6 +188,9 @@ void CatalogueListBox::focusOutEvent(QFocusEvent* event)
 void CatalogueListBox::showPopup()
 {
     m_announced = false;
+    // The drop-down list opens beside the box wherever that is: off the screen, say, when Enter has gone on to a list
+    // that is scrolled away.
+    ScrollIntoView(*this);
     view()->installEventFilter(this);
     const int wanted =
         view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
