@@ -71,7 +71,7 @@ bool WriteNewFile(FileCalls& calls, const std::string& path, std::string_view te
 
 std::filesystem::path TemporaryFile(const std::filesystem::path& target)
 {
-    return target.parent_path() / ("." + target.filename().string() + ".tmp");
+    return target.parent_path() / std::string(".").append(target.filename().string()).append(".tmp");
 }
 
 bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text)
