@@ -64,6 +64,8 @@ def elements_below(element):
 class QuillonWindow:
     """One run of the program, ready to be worked: `with QuillonWindow(program) as window`."""
 
+    keys = 0  # how many were pressed
+
     def __init__(self, program):
         self._start(program)
         try:
@@ -91,7 +93,7 @@ class QuillonWindow:
 
     def _enter(self):
         self.id = wait_for("the window on the display", lambda: self.id_of(TITLE))
-        frame = wait_for(f'the window "{TITLE}"', lambda: self._window(TITLE))
+        frame = wait_for(f'the window "{TITLE}"', lambda: self.window(TITLE))
         self._xdotool("windowactivate", "--sync", self.id)
         wait_for("the window to become active", lambda: has_state(frame, Atspi.StateType.ACTIVE))
         # The name of a list box is its text once something is chosen, so everything keeps the name it starts with.
@@ -127,7 +129,7 @@ class QuillonWindow:
         """Name of what has the keyboard; for the inner parts of a list box, the list box's."""
         elements = self._elements
         if dialog is not None:
-            elements = [(element, element.get_name()) for element in elements_below(self._window(dialog))]
+            elements = [(element, element.get_name()) for element in elements_below(self.window(dialog))]
         box = ""
         for element, name in elements:
             if element.get_role() == Atspi.Role.COMBO_BOX:
@@ -143,7 +145,7 @@ class QuillonWindow:
     def wait_until_usable(self, name, dialog):
         """Returns once the named element of a dialog takes input."""
         def usable():
-            found = [element for element in elements_below(self._window(dialog)) if element.get_name() == name]
+            found = [element for element in elements_below(self.window(dialog)) if element.get_name() == name]
             return found and has_state(found[0], Atspi.StateType.SENSITIVE)
 
         wait_for(f'"{name}" to be usable', usable)
@@ -159,12 +161,14 @@ class QuillonWindow:
                               lambda: self.focused(dialog) not in ("", before) and self.focused(dialog))
         raise NotSeen(f'"{name}" on the way of the Tab key')
 
-    def choose(self, list_name, entry):
-        """Types an entry into the list that has the keyboard, in small letters, and takes it with Enter."""
+    def choose(self, list_name, entry, first=None):
+        """Types an entry, or its first letters, into the list that has the keyboard, in small letters, and takes it with
+        Enter.
+        """
         self.wait_for_focus(list_name)
         box = next(element for element, name in self._elements if name == list_name)
         text = next(child for child in elements_below(box) if child.get_role() == Atspi.Role.TEXT)
-        self.type(entry.lower())
+        self.type((first or entry).lower())
         wait_for(f'"{entry}" in "{list_name}"', lambda: text_of(text) == entry, lambda: f"not {text_of(text)}")
         self.press("Return")
 
@@ -186,9 +190,11 @@ class QuillonWindow:
 
     def press(self, key):
         self._xdotool("key", key)
+        self.keys += 1
 
     def type(self, text):
         self._xdotool("type", "--delay", "20", text)
+        self.keys += len(text)
 
     @staticmethod
     def _xdotool(*arguments):
@@ -211,11 +217,12 @@ class QuillonWindow:
     def _titles(self):
         return [child.get_name() for child in self._windows()]
 
-    def _window(self, title):
+    def window(self, title):
+        """The element of the window with a title, nothing where there is none."""
         return next((child for child in self._windows() if child.get_name() == title), None)
 
     def _active(self, title):
-        window = self._window(title)
+        window = self.window(title)
         return window is not None and has_state(window, Atspi.StateType.ACTIVE)
 
     def id_of(self, title):

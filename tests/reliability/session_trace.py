@@ -18,11 +18,11 @@ from unittest import mock
 
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
-sys.path.insert(0, str(ROOT / "scripts"))
+sys.path[:0] = [str(ROOT / "scripts"), str(ROOT / "tests" / "support")]
 
+from private_printer import PrivatePrinter  # noqa: E402
 from quillon_window import QuillonWindow, wait_for  # noqa: E402
 from session_trace_log import TRACED, TraceLog  # noqa: E402
-from session_trace_printer import PrivatePrinter  # noqa: E402
 
 SAVE = "Save Current Antenna System"
 LOAD = "Load an Antenna System"
@@ -73,20 +73,6 @@ class Session:
 
     def step_at(self, when):
         return [step for step in self.steps if step[0] <= when][-1]
-
-
-class CountingWindow(QuillonWindow):
-    """Counts the keys that are pressed."""
-
-    keys = 0
-
-    def press(self, key):
-        super().press(key)
-        self.keys += 1
-
-    def type(self, text):
-        super().type(text)
-        self.keys += len(text)
 
 
 def look_around(session, window):
@@ -171,7 +157,7 @@ def traced(base, program):
 
 def run_session(base, folder, printer):
     session = Session()
-    with session.step("start"), CountingWindow(traced(base, folder / "Quillon")) as window:
+    with session.step("start"), QuillonWindow(traced(base, folder / "Quillon")) as window:
         look_around(session, window)
         save_and_load(session, window, folder / "QuillonSystems.dat")
         edit(session, window, folder / "Antennas" / "ACME.DAT")

@@ -8,6 +8,7 @@
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 #include "ui/widgets/quiet_label.h"
+#include "ui/widgets/spoken.h"
 
 #include <QGridLayout>
 #include <QPushButton>
@@ -64,8 +65,8 @@ void SelectionFrame::Name()
     m_models->setObjectName(QStringLiteral("cboAntennaModels"));
     m_brand->setObjectName(QStringLiteral("txtAntennaBrand"));
     m_model->setObjectName(QStringLiteral("txtAntennaModel"));
-    m_makers->setAccessibleName(tr("Antenna manufacturer"));
-    m_models->setAccessibleName(tr("Antenna model"));
+    SetSpokenName(*m_makers, tr("Antenna manufacturer"));
+    SetSpokenName(*m_models, tr("Antenna model"));
     m_brand->setAccessibleName(tr("New antenna manufacturer"));
     m_model->setAccessibleName(tr("New antenna model"));
 }

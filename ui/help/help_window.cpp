@@ -8,6 +8,7 @@
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
+#include "ui/widgets/spoken.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -57,6 +58,7 @@ void HelpWindow::Name()
 {
     setObjectName(QStringLiteral("HelpWindow"));
     setWindowTitle(tr("Quillon Help"));
+    SetSpokenRole(*this, QAccessible::Window);
     // The program ends with its main window, whether or not somebody still reads here.
     setAttribute(Qt::WA_QuitOnClose, false);
     m_page->setObjectName(QStringLiteral("txtHelp"));

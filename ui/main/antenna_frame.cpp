@@ -9,6 +9,7 @@
 #include "ui/widgets/catalogue_text.h"
 #include "ui/widgets/list_group.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/spoken.h"
 #include "ui/widgets/typed_number.h"
 
 #include <QVBoxLayout>
@@ -65,9 +66,9 @@ void AntennaFrame::Name()
 {
     setObjectName(FrameName(System()));
     NameLists(m_lists, SpelledName("cboSystem%1Antenna", System()));
-    m_lists[Brand]->setAccessibleName(tr("System %1 antenna brand").arg(Number(System())));
-    m_lists[Model]->setAccessibleName(tr("System %1 antenna model").arg(Number(System())));
-    m_lists[Band]->setAccessibleName(tr("System %1 antenna band").arg(Number(System())));
+    SetSpokenName(*m_lists[Brand], tr("System %1 antenna brand").arg(Number(System())));
+    SetSpokenName(*m_lists[Model], tr("System %1 antenna model").arg(Number(System())));
+    SetSpokenName(*m_lists[Band], tr("System %1 antenna band").arg(Number(System())));
 
     m_line->Held(0)->setObjectName(NameFor("lblAntennaBrand", System()));
     m_line->Held(1)->setObjectName(NameFor("lblAntennaModel", System()));

@@ -38,6 +38,7 @@ void AntennaGainFrame::Name()
     m_text->setAccessibleName(tr("System 1 typed antenna gain, dB"));
     m_coarse->setAccessibleName(tr("System 1 typed antenna gain, coarse"));
     m_fine->setAccessibleName(tr("System 1 typed antenna gain, fine"));
+    m_options->User()->setAccessibleName(tr("System 1 antenna gain, user data"));
 }
 
 void AntennaGainFrame::LayOut()

@@ -8,6 +8,7 @@
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/list_group.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/spoken.h"
 #include "ui/widgets/typed_number.h"
 
 #include <QVBoxLayout>
@@ -41,8 +42,8 @@ void CoaxFrame::Name()
 {
     setObjectName(SpelledName("FrameSystem%1Coax", System()));
     NameLists(m_lists, SpelledName("cboSystem%1Coax", System()));
-    m_lists[Brand]->setAccessibleName(tr("System %1 coax brand").arg(Number(System())));
-    m_lists[Type]->setAccessibleName(tr("System %1 coax type").arg(Number(System())));
+    SetSpokenName(*m_lists[Brand], tr("System %1 coax brand").arg(Number(System())));
+    SetSpokenName(*m_lists[Type], tr("System %1 coax type").arg(Number(System())));
 
     m_line->Held(0)->setObjectName(NameFor("lblCoaxBrand", System()));
     m_line->Held(1)->setObjectName(NameFor("lblCoaxType", System()));

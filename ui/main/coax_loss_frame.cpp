@@ -42,6 +42,7 @@ void CoaxLossFrame::Name()
     m_spin->setObjectName(QStringLiteral("vsCoaxLoss"));
     m_text->setAccessibleName(tr("System 1 typed coax loss, dB per 100 feet"));
     m_spin->setAccessibleName(tr("System 1 typed coax loss"));
+    m_options->User()->setAccessibleName(tr("System 1 coax loss, user data"));
 }
 
 void CoaxLossFrame::LayOut()

@@ -6,6 +6,7 @@
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 #include "ui/widgets/quiet_label.h"
+#include "ui/widgets/spoken.h"
 
 #include <QGridLayout>
 
@@ -202,7 +203,8 @@ void ResultsFrame::ShowRow(int place)
         marker->SetFilled(filled[system]);
         m_rows.at(index).values[system]->SetBetter(filled[system]);
         const QString better = equal ? tr("equal") : tr("System %1 better").arg(Number(system));
-        marker->setAccessibleName(filled[system] ? better : QString());
+        const QString caption = QString::fromLatin1(kResultRows.at(index).caption);
+        Say(*marker, filled[system] ? better : QString(), filled[system] ? caption : QString());
     }
 }
 
@@ -211,10 +213,11 @@ void ResultsFrame::NameValue(int place, engine::SystemId system)
     const auto index = static_cast<std::size_t>(place);
     ValueLabel* value = m_rows.at(index).values[system];
     const ResultRow& row = kResultRows.at(index);
-    value->setAccessibleName(QStringLiteral("%1, System %2: %3 %4")
-                                 .arg(QString::fromLatin1(row.caption))
-                                 .arg(Number(system))
-                                 .arg(value->text(), QString::fromLatin1(row.spokenUnit)));
+    const QString name = tr("%1, System %2: %3 %4")
+                             .arg(QString::fromLatin1(row.caption))
+                             .arg(Number(system))
+                             .arg(value->text(), QString::fromLatin1(row.spokenUnit));
+    Say(*value, name);
 }
 
 void ResultsFrame::ShowAntennaStatus(engine::SystemId system, const QString& text)

@@ -3,6 +3,7 @@
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
+#include "ui/widgets/spoken.h"
 #include "ui/widgets/titled_frame.h"
 
 #include <QComboBox>
@@ -25,6 +26,7 @@ QuietLabel* AddLabel(QWidget& frame, const QString& name, const QString& text, Q
     label->setObjectName(name);
     label->setText(text);
     label->setBuddy(buddy);
+    SetSpokenName(*buddy, text);
     return label;
 }
 

@@ -7,6 +7,7 @@
 #include "ui/widgets/card.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/spoken.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -67,6 +68,7 @@ Splash::Splash(std::function<void()> showMainWindow, const Waits& waits, QWidget
 {
     setObjectName(QStringLiteral("Splash"));
     setWindowTitle(kTitle);
+    SetSpokenRole(*this, QAccessible::Dialog);
     LayOut();
 
     m_timer.setSingleShot(true);

@@ -3,6 +3,7 @@
 #include "ui/widgets/button_keys.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
+#include "ui/widgets/spoken.h"
 
 #include <QGridLayout>
 #include <QPushButton>
@@ -29,7 +30,7 @@ void PairDialog::LayOut(TitledFrame* fieldFrame, QWidget* field, const QList<QPu
     auto* inFrame = new QVBoxLayout(fieldFrame);
     inFrame->setContentsMargins(0, 0, 0, 0);
     inFrame->addWidget(field);
-    field->setAccessibleName(fieldFrame->title());
+    SetSpokenName(*field, fieldFrame->title());
 
     const int unit = BaseUnit();
     auto* grid = new QGridLayout(this);

@@ -1,6 +1,7 @@
 #include "ui/widgets/result_marker.h"
 
 #include "ui/widgets/looks.h"
+#include "ui/widgets/spoken.h"
 
 #include <QEvent>
 #include <QFontMetricsF>
@@ -26,6 +27,7 @@ ResultMarker::ResultMarker(engine::SystemId system, MarkerSize size, QWidget* pa
     , m_size(size)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    SetSpokenRole(*this, QAccessible::Graphic);
 }
 
 void ResultMarker::SetFilled(bool filled)

@@ -58,6 +58,11 @@ INSTANTIATE_TEST_SUITE_P(SpinControls, Spoken,
                                            SpokenRow{"vsCoaxLoss", "System 1 typed coax loss"}),
                          support::RowName());
 
+INSTANTIATE_TEST_SUITE_P(OptionsOfOneCaption, Spoken,
+                         ::testing::Values(SpokenRow{"optCoaxCable(0)", "System 1 coax loss, user data"},
+                                           SpokenRow{"optAntenna(0)", "System 1 antenna gain, user data"}),
+                         support::RowName());
+
 INSTANTIATE_TEST_SUITE_P(Lists, Spoken,
                          ::testing::Values(SpokenRow{"cboSystemOneAntenna(0)", "System 1 antenna brand"},
                                            SpokenRow{"cboSystemOneAntenna(1)", "System 1 antenna model"},

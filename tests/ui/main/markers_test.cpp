@@ -1,6 +1,8 @@
 #include "tests/support/row_name.h"
 #include "tests/ui/main/window_fixture.h"
 
+#include <QAccessible>
+
 namespace quillon::ui {
 namespace {
 
@@ -118,6 +120,25 @@ TEST_F(Markers, AreSpoken)
     Paste("txtOutputPower(1)", "200");
     EXPECT_EQ(AccessibleName("shpSystemOne(0)"), "System 1 better");
     EXPECT_EQ(AccessibleName("shpSystemTwo(0)"), "");
+}
+
+TEST_F(Markers, AreSpokenWithTheCaptionOfTheirRow)
+{
+    ChooseSystem("One", "BEAM FOUR");
+    EXPECT_EQ(AccessibleDescription("shpSystemOne(0)"), "");
+    ChooseSystem("Two", "BEAM FOUR");
+    Paste("txtOutputPower(2)", "150");
+    EXPECT_EQ(AccessibleDescription("shpSystemOne(0)"), "");
+    EXPECT_EQ(AccessibleDescription("shpSystemTwo(0)"), "Antenna System ERP");
+    EXPECT_EQ(AccessibleDescription("shpSystemTwo(2)"), "Antenna Feedpoint Power");
+}
+
+TEST_F(Markers, ArePicturesToScreenReadersAndNotPartsOfTheLayout)
+{
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&Find("shpSystemOne(0)"));
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_EQ(spoken->role(), QAccessible::Graphic);
+    EXPECT_EQ(spoken->text(QAccessible::Name), QString());
 }
 
 struct BetterRow

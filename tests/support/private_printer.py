@@ -1,4 +1,4 @@
-"""A print service of the check's own, whose one printer puts its pages into a folder."""
+"""A print service of a test's own, whose one printer puts its pages into a folder."""
 
 import os
 import shutil
@@ -6,7 +6,7 @@ import subprocess
 import time
 from pathlib import Path
 
-SUPPORT = Path(__file__).resolve().parents[1] / "support" / "private_cups"
+SUPPORT = Path(__file__).resolve().parent / "private_cups"
 
 PRINTER = """<Printer Shack>
 DeviceURI catch:@/caught
