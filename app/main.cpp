@@ -1,4 +1,5 @@
 #include "app/program.h"
+#include "app/program_icon.h"
 #include "store/program_folder.h"
 #include "ui/platform/single_instance.h"
 #include "ui/startup/splash.h"
@@ -15,6 +16,9 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillon"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLON_VERSION));
+    QApplication::setWindowIcon(ProgramIcon());
+    // By its name a desktop that shows no icons of windows finds the one of the program.
+    QGuiApplication::setDesktopFileName(QStringLiteral(QUILLON_DESKTOP_ID));
     // A message can be the only window and be closed while the main window is still to come.
     QApplication::setQuitOnLastWindowClosed(false);
 

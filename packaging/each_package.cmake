@@ -1,0 +1,10 @@
+# Read by CPack before it makes a package: which of the two folder layouts goes into it.
+if(CPACK_GENERATOR STREQUAL "TGZ")
+    set(layout portable)
+    set(CPACK_PACKAGE_FILE_NAME "quillon-${CPACK_PACKAGE_VERSION}-linux-${CMAKE_HOST_SYSTEM_PROCESSOR}")
+    set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
+else()
+    set(layout system)
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+endif()
+set(CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_BUILD_FOLDER};Quillon;${layout};/")
