@@ -64,7 +64,7 @@ def elements_below(element):
 class QuillonWindow:
     """One run of the program, ready to be worked: `with QuillonWindow(program) as window`."""
 
-    keys = 0  # how many were pressed
+    keys = 0  # that were pressed
 
     def __init__(self, program):
         self._start(program)

@@ -57,6 +57,8 @@ void Quillon::Load()
     LoadCableMakers();
     LoadAntennaMakers();
     m_calculations.BuildDBTable();
+    // It has the keyboard, but did not get it by Tab, which would mark it.
+    m_columns[engine::SystemId::One]->Power()->MarkFigure();
     m_formLoaded = true;
 }
 

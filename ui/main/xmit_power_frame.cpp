@@ -80,6 +80,11 @@ void XmitPowerFrame::ShowRecord()
     ColourText(Data().XmitPower);
 }
 
+void XmitPowerFrame::MarkFigure()
+{
+    m_text->selectAll();
+}
+
 QList<QWidget*> XmitPowerFrame::TabOrder() const
 {
     return {m_text, m_coarse, m_fine};

@@ -16,6 +16,8 @@ public:
     void ShowPower(float watts);
     /// Shows the record's power in whole watts; the record keeps its tenths.
     void ShowRecord();
+    /// Marks the figure, so that what is typed next replaces it.
+    void MarkFigure();
     [[nodiscard]] QList<QWidget*> TabOrder() const;
 
 protected:

@@ -114,6 +114,12 @@ TEST_P(StartUp, LeavesTheFiguresOfTheSavedFieldsAlone)
     EXPECT_EQ(Data().GainType, "");
 }
 
+TEST_P(StartUp, LetsTheFirstFigureBeTypedAtOnce)
+{
+    Type("250");
+    EXPECT_EQ(Text("txtOutputPower(1)"), "250");
+}
+
 INSTANTIATE_TEST_SUITE_P(Window, StartUp, BothSystems(), SystemName());
 
 TEST_F(WindowTest, IsLoadedOnlyAfterItsStartUpSequence)
