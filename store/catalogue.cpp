@@ -154,6 +154,15 @@ std::vector<std::string> Catalogue::LoadAntennaGain(std::string_view maker, std:
     return bands;
 }
 
+std::optional<ModelSection> Catalogue::LoadModel(std::string_view maker, std::string_view model) const
+{
+    const std::size_t failed = m_store->FailedReads();
+    ModelSection section;
+    LoadAntennaGain(maker, model, section.bands);
+    section.gainType = LoadAntennaGainType(maker, model);
+    return m_store->FailedReads() == failed ? std::optional(std::move(section)) : std::nullopt;
+}
+
 std::vector<std::string> Catalogue::LoadCableMakers() const
 {
     return LoadMakers("Cables");
@@ -194,6 +203,20 @@ CableFigures Catalogue::LoadCableKFactors(std::string_view maker, std::string_vi
     ReadInto(coaxSpec.at(1), *file, type, "K1");
     ReadInto(coaxSpec.at(2), *file, type, "K2");
     return ReadSpecs(*file, type);
+}
+
+std::optional<CableFigures> Catalogue::LoadCable(std::string_view maker, std::string_view type,
+                                                 std::array<float, 9>& coaxSpec) const
+{
+    const std::size_t failed = m_store->FailedReads();
+    std::array<float, 9> read = coaxSpec;
+    const CableFigures figures =
+        IsKFactorMaker(maker, type) ? LoadCableKFactors(maker, type, read) : LoadCableLoss(maker, type, read);
+    if (m_store->FailedReads() != failed) {
+        return std::nullopt;
+    }
+    coaxSpec = read;
+    return figures;
 }
 
 } // namespace quillon::store

@@ -29,6 +29,13 @@ struct BandColumn
 /// The model loaded last, one column per band in the order of kBandSuffixes. Shared by both systems and the editor.
 using BandTable = std::array<BandColumn, 14>;
 
+/// What a model's section says as a whole.
+struct ModelSection
+{
+    BandTable bands;
+    std::string gainType; ///< unit of the gains, empty when the file has none
+};
+
 /// The two further figures of a cable: jacket's outside diameter in inches and impedance in ohms.
 struct CableFigures
 {
@@ -60,6 +67,9 @@ public:
     [[nodiscard]] std::string LoadAntennaGainType(std::string_view maker, std::string_view model) const;
     /// Fills the band table. @return entries of the band list ("20 Meters"), in file order.
     std::vector<std::string> LoadAntennaGain(std::string_view maker, std::string_view model, BandTable& table) const;
+    /// The band table and the unit together; none when something could not be read, which must not be taken for a model
+    /// without bands.
+    [[nodiscard]] std::optional<ModelSection> LoadModel(std::string_view maker, std::string_view model) const;
 
     /// Makers by character code.
     [[nodiscard]] std::vector<std::string> LoadCableMakers() const;
@@ -71,6 +81,10 @@ public:
     CableFigures LoadCableLoss(std::string_view maker, std::string_view type, std::array<float, 9>& coaxSpec) const;
     /// Reads K1 and K2 into places 1 and 2 of coaxSpec; a factor without a value keeps what it held.
     CableFigures LoadCableKFactors(std::string_view maker, std::string_view type, std::array<float, 9>& coaxSpec) const;
+    /// Reads what the maker's cables have, the two factors or the nine losses; none, and coaxSpec stays, when something
+    /// could not be read.
+    [[nodiscard]] std::optional<CableFigures> LoadCable(std::string_view maker, std::string_view type,
+                                                        std::array<float, 9>& coaxSpec) const;
 
 private:
     [[nodiscard]] std::vector<std::string> LoadMakers(std::string_view kind) const;

@@ -47,7 +47,7 @@ const PrivateProfile& ProfileStore::Read(const std::filesystem::path& file)
     }
     std::optional<Document> document = Take(location);
     if (!document) {
-        SpoilBatches();
+        NoteFailedRead();
         return m_nothing;
     }
     return Hold(std::move(*document));
@@ -57,7 +57,7 @@ bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& ed
 {
     const Location location = Locate(file);
     if (location.status.state == FileState::Refused) {
-        SpoilBatches();
+        NoteFailedRead();
     }
     if (location.status.state == FileState::Refused || IsSpoilt()) {
         return false;
@@ -77,6 +77,7 @@ void ProfileStore::CreateIfMissing(const std::filesystem::path& file)
 {
     const NameState state = FindName(m_calls, file).state;
     if (state == NameState::Unknown) {
+        NoteFailedRead();
         throw std::system_error(std::make_error_code(std::errc::io_error), file.string());
     }
     if (state == NameState::Missing) {
@@ -145,14 +146,15 @@ const PrivateProfile& ProfileStore::ReadInBatch(Batch& batch, const Location& lo
         }
     }
     if (!batch.document) {
-        SpoilBatches();
+        NoteFailedRead();
         return m_nothing;
     }
     return batch.document->profile;
 }
 
-void ProfileStore::SpoilBatches()
+void ProfileStore::NoteFailedRead()
 {
+    ++m_failedReads;
     for (auto& [path, batch] : m_batches) {
         batch.isSpoilt = true;
     }

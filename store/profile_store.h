@@ -40,6 +40,10 @@ public:
     /// @return false when the file could not be written; it then stands as before.
     bool Edit(const std::filesystem::path& file, const ProfileEdit& edit);
 
+    /// How often something could not be read so far. What was read while the number stayed the same is what the files
+    /// hold, and may be shown to be changed and written back.
+    [[nodiscard]] std::size_t FailedReads() const noexcept { return m_failedReads; }
+
     /// Creates a file empty unless its name stands in the folder. @throws std::system_error when it cannot be created,
     /// or the folder cannot be searched for it.
     void CreateIfMissing(const std::filesystem::path& file);
@@ -74,7 +78,7 @@ private:
     [[nodiscard]] std::optional<Document> Take(const Location& location);
     const PrivateProfile& Hold(Document document);
     const PrivateProfile& ReadInBatch(Batch& batch, const Location& location);
-    void SpoilBatches();
+    void NoteFailedRead();
     [[nodiscard]] bool IsSpoilt() const;
     [[nodiscard]] bool Rewrite(const Location& location, std::span<const ProfileEdit> edits);
 
@@ -86,6 +90,7 @@ private:
     FileCalls& m_calls;
     std::list<Document> m_held; ///< the one used last stands first
     std::map<std::string, Batch> m_batches;
+    std::size_t m_failedReads = 0;
     const PrivateProfile m_nothing;
 };
 

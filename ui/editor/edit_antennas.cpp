@@ -184,10 +184,16 @@ void EditAntennas::ShowFileInfo()
 
 void EditAntennas::ShowModel()
 {
-    store::BandTable bands;
-    m_catalogue.LoadAntennaGain(Maker(), Model(), bands);
-    m_fields->ShowModel(bands, m_catalogue.LoadAntennaGainType(Maker(), Model()));
+    const std::optional<store::ModelSection> model = m_catalogue.LoadModel(Maker(), Model());
+    m_selection->Edit().setEnabled(model.has_value());
     SetEditing(false);
+    if (model) {
+        m_fields->ShowModel(model->bands, model->gainType);
+        return;
+    }
+    // Fields without bands must not be saved: that would take away those that the model has.
+    m_fields->Clear();
+    Tell(NotRead(Maker()) + u'.');
 }
 
 bool EditAntennas::UpdateIndex()
@@ -208,7 +214,6 @@ void EditAntennas::cboAntennaMakers_Click()
 void EditAntennas::cboAntennaModels_Click()
 {
     ShowModel();
-    m_selection->Edit().setEnabled(true);
 }
 
 void EditAntennas::cmdAddNewBrand_Click()
@@ -282,7 +287,10 @@ void EditAntennas::txtAntennaModel_Enter()
 
 void EditAntennas::cmdEdit_Click()
 {
-    SetEditing(true);
+    // Enter in the list of models comes here as well, whether there is something to edit or not.
+    if (m_selection->Edit().isEnabled()) {
+        SetEditing(true);
+    }
 }
 
 void EditAntennas::cmdSave_Click()

@@ -62,6 +62,7 @@ private:
 
     void LoadMakers();
     void LoadModels();
+    /// Shows the chosen model, locked. One that cannot be read is not shown and cannot be edited, and the user is told.
     void ShowModel();
     void ShowFileInfo();
     void SetEditing(bool editing);

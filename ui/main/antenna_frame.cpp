@@ -161,7 +161,11 @@ void AntennaFrame::BandChosen()
     if (!m_lists[Brand]->HasChoice() || !m_lists[Model]->HasChoice() || !m_lists[Band]->HasChoice()) {
         return;
     }
-    if (Work().Attempt(System(), [this] { TakeBand(); })) {
+    const std::optional<store::ModelSection> model = ReadModel();
+    if (!model) {
+        return;
+    }
+    if (Work().Attempt(System(), [&] { TakeBand(*model); })) {
         m_lists[Band]->ClearMark();
     } else {
         m_lists[Band]->Mark(TooLarge(m_lists[Band]->currentText()));
@@ -169,15 +173,21 @@ void AntennaFrame::BandChosen()
     }
 }
 
-void AntennaFrame::TakeBand()
+std::optional<store::ModelSection> AntennaFrame::ReadModel()
 {
     const std::string maker = m_lists[Brand]->ChosenName().toStdString();
-    const std::string model = m_lists[Model]->ChosenName().toStdString();
-    Work().Catalogue().LoadAntennaGain(maker, model, Work().Bands());
+    auto model = Work().Catalogue().LoadModel(maker, m_lists[Model]->ChosenName().toStdString());
+    if (!model) {
+        m_lists[Band]->Mark(NotRead(maker));
+    }
+    return model;
+}
 
+void AntennaFrame::TakeBand(const store::ModelSection& model)
+{
+    Work().Bands() = model.bands;
     Data().UseAntennaList = engine::kTrue;
-    const std::string gainType = Work().Catalogue().LoadAntennaGainType(maker, model);
-    TakeGain(engine::GainToDBd(GainOfBand(), gainType), gainType);
+    TakeGain(engine::GainToDBd(GainOfBand(), model.gainType), model.gainType);
 
     Data().Frequency =
         engine::RoundWithMask(engine::FrequencyForBand(m_lists[Band]->ChosenName().toStdString()), kBandFrequencyMask);
@@ -203,19 +213,21 @@ void AntennaFrame::TakeGain(float dBd, const std::string& gainType)
 
 void AntennaFrame::FollowGain()
 {
-    const std::string maker = m_lists[Brand]->ChosenName().toStdString();
-    const std::string gainType =
-        Work().Catalogue().LoadAntennaGainType(maker, m_lists[Model]->ChosenName().toStdString());
-    const float dBd = engine::GainToDBd(GainOfBand(), gainType);
     if (Data().AntennaGain != m_listGain) {
         return; // a gain that was typed since is the user's
     }
-    if (dBd == m_listGain && gainType == Data().GainType) {
+    const std::optional<store::ModelSection> model = ReadModel();
+    if (!model) {
+        return;
+    }
+    Work().Bands() = model->bands;
+    const float dBd = engine::GainToDBd(GainOfBand(), model->gainType);
+    if (dBd == m_listGain && model->gainType == Data().GainType) {
         m_lists[Band]->ClearMark(); // in force as it is, which asks for no computation
         return;
     }
     const auto follow = [&] {
-        TakeGain(dBd, gainType);
+        TakeGain(dBd, model->gainType);
         Work().RefreshData(System());
         ShowGain();
     };
@@ -248,9 +260,8 @@ void AntennaFrame::ShowRecord()
         return;
     }
     const int band = m_lists[Band]->findText(BandOfFrequency(saved.Frequency), Qt::MatchFixedString);
-    if (band >= 0) {
-        m_lists[Band]->Choose(band);
-    } else {
+    m_lists[Band]->Choose(band);
+    if (band < 0 || m_lists[Band]->IsMarked()) {
         TakeRecordGain();
     }
 }

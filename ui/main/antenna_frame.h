@@ -42,7 +42,9 @@ private:
     void BrandChosen();
     void ModelChosen();
     void BandChosen();
-    void TakeBand();
+    void TakeBand(const store::ModelSection& model);
+    /// What the file says of the chosen model; nothing, and the band list is marked, when it could not be read.
+    [[nodiscard]] std::optional<store::ModelSection> ReadModel();
     /// Takes the chosen band's gain over when the catalogue has changed it.
     void FollowGain();
     /// Writes a gain into the record. @param dBd  as GainToDBd gives it

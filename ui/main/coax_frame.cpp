@@ -118,7 +118,9 @@ void CoaxFrame::TypeChosen()
     if (!m_lists[Brand]->HasChoice() || !m_lists[Type]->HasChoice()) {
         return;
     }
-    if (Work().Attempt(System(), [this] { TakeCable(); })) {
+    if (!LoadCable()) {
+        m_lists[Type]->Mark(NotRead(m_lists[Brand]->ChosenName().toStdString()));
+    } else if (Work().Attempt(System(), [this] { TakeCable(); })) {
         m_lists[Type]->ClearMark();
     } else {
         m_lists[Type]->Mark(TooLarge(m_lists[Type]->currentText()));
@@ -128,7 +130,6 @@ void CoaxFrame::TypeChosen()
 void CoaxFrame::TakeCable()
 {
     const QString type = m_lists[Type]->currentText();
-    LoadCable();
     Data().CoaxModel = RecordText(type);
     Data().CoaxType = engine::ToInteger(m_lists[Type]->currentIndex());
     Data().CoaxLoss = engine::CoaxLossOf(Data(), Work().CoaxSpec());
@@ -141,14 +142,12 @@ void CoaxFrame::TakeCable()
     m_port.ShowCoaxStatus(Work().Shortest(Data().CoaxLoss));
 }
 
-void CoaxFrame::LoadCable()
+bool CoaxFrame::LoadCable()
 {
-    const std::string maker = m_lists[Brand]->ChosenName().toStdString();
-    const std::string type = m_lists[Type]->ChosenName().toStdString();
-    const store::Catalogue& catalogue = Work().Catalogue();
-    m_figures = store::Catalogue::IsKFactorMaker(maker, type)
-                    ? catalogue.LoadCableKFactors(maker, type, Work().CoaxSpec())
-                    : catalogue.LoadCableLoss(maker, type, Work().CoaxSpec());
+    const auto figures = Work().Catalogue().LoadCable(m_lists[Brand]->ChosenName().toStdString(),
+                                                      m_lists[Type]->ChosenName().toStdString(), Work().CoaxSpec());
+    m_figures = figures.value_or(m_figures);
+    return figures.has_value();
 }
 
 void CoaxFrame::ShowFigure(int place, std::optional<float> figure, const QString& pattern)

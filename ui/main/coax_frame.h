@@ -34,7 +34,8 @@ private:
     void BrandChosen();
     void TypeChosen();
     void TakeCable();
-    void LoadCable();
+    /// Reads the chosen cable's figures. @return false, and those before stay, when they could not be read
+    [[nodiscard]] bool LoadCable();
     void ShowFigure(int place, std::optional<float> figure, const QString& pattern);
 
     SystemPort& m_port;

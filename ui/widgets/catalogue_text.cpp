@@ -37,6 +37,11 @@ QString MakerText(std::string_view bytes)
     return decoder.hasError() ? SectionText(bytes) : text;
 }
 
+QString NotRead(std::string_view maker)
+{
+    return QStringLiteral("The file of “%1” could not be read").arg(MakerText(maker));
+}
+
 std::string RecordText(const QString& text)
 {
     std::string record;

@@ -17,6 +17,9 @@ namespace quillon::ui {
 /// Text of a maker's name: its file's name, UTF-8 where it is valid, else the files' code page.
 [[nodiscard]] QString MakerText(std::string_view bytes);
 
+/// The words for a maker's file that could not be read. @param maker  as the file is named
+[[nodiscard]] QString NotRead(std::string_view maker);
+
 /// A shown text as the records hold it (single-byte code page); what the code page lacks becomes "?".
 [[nodiscard]] std::string RecordText(const QString& text);
 

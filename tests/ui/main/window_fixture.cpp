@@ -49,7 +49,8 @@ WindowTest::~WindowTest()
 
 Quillon& WindowTest::Make()
 {
-    m_catalogue = std::make_unique<store::Catalogue>(store::ProgramFolder(folder / "Quillon"));
+    m_catalogue = std::make_unique<store::Catalogue>(store::ProgramFolder(folder / "Quillon"),
+                                                     std::make_shared<store::ProfileStore>(calls));
     m_window = std::make_unique<Quillon>(QuillonParts{systems, hooks, notifier, *m_catalogue});
     return *m_window;
 }

@@ -2,6 +2,7 @@
 
 #include "engine/records.h"
 #include "store/catalogue.h"
+#include "tests/store/failing_calls.h"
 #include "tests/support/find_widget.h"
 #include "tests/support/recording_hooks.h"
 #include "tests/support/recording_notifier.h"
@@ -76,6 +77,7 @@ protected:
 
     support::TempFolder folder;
     engine::AntennaSystems systems;
+    store::FailingCalls calls; ///< what the catalogue reads through
     support::RecordingHooks hooks;
     support::RecordingNotifier notifier;
 
