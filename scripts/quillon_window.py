@@ -10,9 +10,11 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
+from window_titles import MAIN, SPLASH  # noqa: E402
 
-TITLE = "ERP / Attenuation Calculator"
-SPLASH = "Quillon"
+# What choose_system chooses, from the shipped catalogues.
+SYSTEM_ONE = {"coax": ("BELDEN", "8267 RG-213"), "antenna": ("HY-GAIN", "TH7DX", "20 Meters")}
+SYSTEM_TWO = {"coax": ("TIMES MICROWAVE", "LMR-400"), "antenna": ("M2", "2M9", "2 Meters")}
 
 # Long enough for a sanitized build on a busy machine; nothing waits longer than it has to.
 PATIENCE = 60
@@ -87,13 +89,13 @@ class QuillonWindow:
     def _end_splash(self):
         """Presses a key in the splash window, unless its time is over anyway."""
         wait_for("the program on the accessibility bus", self._application)
-        wait_for("the splash window", lambda: self._active(SPLASH) or self.id_of(TITLE))
-        if not self.id_of(TITLE):
+        wait_for("the splash window", lambda: self._active(SPLASH) or self.id_of(MAIN))
+        if not self.id_of(MAIN):
             self.press("Escape")
 
     def _enter(self):
-        self.id = wait_for("the window on the display", lambda: self.id_of(TITLE))
-        frame = wait_for(f'the window "{TITLE}"', lambda: self.window(TITLE))
+        self.id = wait_for("the window on the display", lambda: self.id_of(MAIN))
+        frame = wait_for(f'the window "{MAIN}"', lambda: self.window(MAIN))
         self._xdotool("windowactivate", "--sync", self.id)
         wait_for("the window to become active", lambda: has_state(frame, Atspi.StateType.ACTIVE))
         # The name of a list box is its text once something is chosen, so everything keeps the name it starts with.
@@ -186,7 +188,7 @@ class QuillonWindow:
 
     def wait_for_no_dialog(self):
         """Returns once the main window has the keyboard again."""
-        wait_for("the main window to become active", lambda: self._active(TITLE))
+        wait_for("the main window to become active", lambda: self._active(MAIN))
 
     def press(self, key):
         self._xdotool("key", key)

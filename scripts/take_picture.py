@@ -4,10 +4,10 @@
 import subprocess
 import sys
 
-from quillon_window import QuillonWindow, wait_for
+from quillon_window import SYSTEM_ONE, QuillonWindow, wait_for
 
 SYSTEMS = {
-    1: {"coax": ("BELDEN", "8267 RG-213"), "antenna": ("HY-GAIN", "TH7DX", "20 Meters")},
+    1: SYSTEM_ONE,
     2: {"coax": ("TIMES MICROWAVE", "LMR-400"), "antenna": ("OPTIBEAM", "OB16-5", "20 Meters")},
 }
 

@@ -4,17 +4,9 @@
 import os
 from unittest import mock
 
-from program_case import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, ProgramCase, contents, run
-from quillon_window import QuillonWindow, wait_for
-
-SAVE = "Save Current Antenna System"
-LOAD = "Load an Antenna System"
-PRINT = "Print Report"
-EDITOR = "Manage Antenna Database"
-TABLE = "dB Calculation Table"
-ABOUT = "About Quillon"
-HELP = "Quillon Help"
-QUESTION = "Save Configured System?"
+from program_case import BOTH_ERPS, ProgramCase, contents, run
+from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, wait_for
+from window_titles import ABOUT, CLOSING, EDITOR, HELP, LOAD, PRINT, SAVE, TABLE
 
 # Key of the command, window that it opens, key that closes that.
 WINDOWS = [
@@ -169,11 +161,11 @@ class EveryCommand(ProgramCase):
         with QuillonWindow(self.program) as window:
             self.configure(window)
             window.press("ctrl+q")
-            window.wait_for_dialog(QUESTION)
+            window.wait_for_dialog(CLOSING)
             window.press("Return")  # Cancel
             window.wait_for_no_dialog()
             window.press("alt+c")
-            window.wait_for_dialog(QUESTION)
+            window.wait_for_dialog(CLOSING)
             window.press("alt+y")
             window.wait_for_dialog(SAVE)
             window.press("alt+s")
@@ -189,7 +181,7 @@ class EveryCommand(ProgramCase):
         with QuillonWindow(self.program) as window:
             self.configure(window)
             window.press("ctrl+q")
-            window.wait_for_dialog(QUESTION)
+            window.wait_for_dialog(CLOSING)
             window.press("alt+n")
             self.assertEqual(window.wait_for_end(), 0)
         self.assertEqual(contents(self.folder), before)

@@ -8,18 +8,11 @@ from unittest import mock
 
 from program_case import ROOT, ProgramCase, run
 from quillon_window import QuillonWindow, wait_for
+from window_titles import CLOSING, EDITOR, HELP, LOAD, PRINT, SAVE, TABLE
 
 sys.path.insert(0, str(ROOT / "tests" / "support"))
 
 from private_printer import PrivatePrinter  # noqa: E402
-
-SAVE = "Save Current Antenna System"
-LOAD = "Load an Antenna System"
-PRINT = "Print Report"
-EDITOR = "Manage Antenna Database"
-TABLE = "dB Calculation Table"
-HELP = "Quillon Help"
-QUESTION = "Save Configured System?"
 
 MOST_KEYS = 60
 
@@ -55,7 +48,7 @@ class KeyboardSession(ProgramCase):
             self.print(window)
             self.look_into_table_and_help(window)
             window.press("ctrl+q")
-            window.wait_for_dialog(QUESTION)
+            window.wait_for_dialog(CLOSING)
             window.press("alt+n")
             self.assertEqual(window.wait_for_end(), 0)
         self.assertEqual(self.pointer(), pointer)

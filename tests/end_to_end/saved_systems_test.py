@@ -1,11 +1,9 @@
 #!/usr/bin/env python3
 """Saving and loading with the built program, by keyboard: saved_systems_test.py PROGRAM"""
 
-from program_case import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, ProgramCase, contents, run
-from quillon_window import QuillonWindow, wait_for
-
-SAVE = "Save Current Antenna System"
-LOAD = "Load an Antenna System"
+from program_case import BOTH_ERPS, ProgramCase, contents, run
+from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, wait_for
+from window_titles import LOAD, SAVE
 
 
 class SavedSystems(ProgramCase):

@@ -5,17 +5,10 @@ import os
 from unittest import mock
 
 from heard_changes import HeardChanges
-from program_case import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, ProgramCase, run
-from quillon_window import SPLASH, TITLE, QuillonWindow, has_state, name_of, text_of, wait_for
+from program_case import BOTH_ERPS, ProgramCase, run
+from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, has_state, name_of, text_of, wait_for
 from spoken_controls import Atspi, controls_of, everything_below, labels_of, unlabelled
-
-SAVE = "Save Current Antenna System"
-LOAD = "Load an Antenna System"
-PRINT = "Print Report"
-EDITOR = "Manage Antenna Database"
-TABLE = "dB Calculation Table"
-ABOUT = "About Quillon"
-HELP = "Quillon Help"
+from window_titles import ABOUT, EDITOR, HELP, LOAD, MAIN, PRINT, SAVE, SPLASH, TABLE, UPDATE
 
 # Key of the command, window that it opens, number of its controls without the entries of lists, key that closes it.
 WINDOWS = [
@@ -94,7 +87,7 @@ class Labels(ProgramCase):
             role, controls, labels = window.splash
             self.assertEqual((role, controls), (Atspi.Role.DIALOG, []))
             self.assertIn("This application is designed for demonstration purposes only.", labels)
-            self.check(window, TITLE, CONTROLS_OF_THE_MAIN_WINDOW)
+            self.check(window, MAIN, CONTROLS_OF_THE_MAIN_WINDOW)
             for key, title, count, close in WINDOWS:
                 window.press(key)
                 window.wait_for_dialog(title)
@@ -110,12 +103,12 @@ class Labels(ProgramCase):
             window.choose("System 2 coax brand", SYSTEM_TWO["coax"][0])
             window.wait_for_focus("System 2 coax type")
             # The list that has opened is a window of its own.
-            self.check(window, TITLE, CONTROLS_OF_THE_MAIN_WINDOW)
+            self.check(window, MAIN, CONTROLS_OF_THE_MAIN_WINDOW)
             window.choose("System 2 coax type", SYSTEM_TWO["coax"][1])
             for part, entry in zip(("brand", "model", "band"), SYSTEM_TWO["antenna"], strict=True):
                 window.choose(f"System 2 antenna {part}", entry)
             window.wait_for_names(*BOTH_ERPS)
-            self.check(window, TITLE, CONTROLS_OF_THE_MAIN_WINDOW)
+            self.check(window, MAIN, CONTROLS_OF_THE_MAIN_WINDOW)
             self.save(window)
             window.press("ctrl+o")
             window.wait_for_dialog(LOAD)
@@ -133,7 +126,7 @@ class Labels(ProgramCase):
             window.press("alt+s")
             if time == "again":
                 text = "The Selected System Already Exists. Do You Want to Update it?"
-                self.check_message(window, "Save Antenna System", text, "alt+n")
+                self.check_message(window, UPDATE, text, "alt+n")
             window.wait_for_focus("Close", SAVE)
             window.press("Return")
             window.wait_for_no_dialog()
@@ -213,7 +206,7 @@ class Results(ProgramCase):
 
     def marks(self, window):
         """What stands at the sides of the rows, by rows."""
-        pictures = [element for element in everything_below(window.window(TITLE)) if element.get_role() == Atspi.Role.IMAGE]
+        pictures = [element for element in everything_below(window.window(MAIN)) if element.get_role() == Atspi.Role.IMAGE]
         for picture in pictures:
             picture.clear_cache()
         return [(picture.get_description(), picture.get_name()) for picture in pictures if picture.get_name()]
@@ -249,7 +242,7 @@ class Results(ProgramCase):
         with QuillonWindow(self.program) as window, HeardChanges() as heard:
             for system in (1, 2):
                 window.tab_to(f"System {system} power, watts")
-                box = next(element for element in everything_below(window.window(TITLE))
+                box = next(element for element in everything_below(window.window(MAIN))
                            if name_of(element) == f"System {system} power, watts")
                 self.assertTrue(has_state(box, Atspi.StateType.FOCUSED))
                 window.press("Tab")

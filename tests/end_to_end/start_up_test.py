@@ -5,10 +5,10 @@ import subprocess
 import time
 
 from program_case import ProgramCase, run
-from quillon_window import PATIENCE, SPLASH, TITLE, QuillonWindow, wait_for
+from quillon_window import PATIENCE, QuillonWindow, wait_for
+from window_titles import LOAD, MAIN, SPLASH
 
-LOAD = "Load an Antenna System"
-BOTH = (TITLE, SPLASH)
+BOTH = (MAIN, SPLASH)
 
 
 class StartingProgram(QuillonWindow):
@@ -53,7 +53,7 @@ class StartUp(ProgramCase):
             self.assertEqual(start.watch_until(BOTH), [(SPLASH,), BOTH])
             self.assertGreaterEqual(start.elapsed(), 2.5)
             start.wait_for_keyboard()
-            start.watch_until((TITLE,))
+            start.watch_until((MAIN,))
             self.assertGreaterEqual(start.elapsed(), 5)
             start.wait_for_keyboard()
 
@@ -61,7 +61,7 @@ class StartUp(ProgramCase):
         with StartingProgram(self.program) as start:
             splash = wait_for("the splash window", lambda: start.id_of(SPLASH))
             start.click(splash)
-            self.assertNotIn(BOTH, start.watch_until((TITLE,)))
+            self.assertNotIn(BOTH, start.watch_until((MAIN,)))
             start.wait_for_keyboard()
 
     def test_keys_are_the_main_windows_while_the_splash_is_still_there_and_no_dialog_stands_behind_it(self):

@@ -4,8 +4,9 @@
 import collections
 import subprocess
 
-from program_case import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, ProgramCase, contents, run
-from quillon_window import PATIENCE, TITLE, QuillonWindow
+from program_case import BOTH_ERPS, ProgramCase, contents, run
+from quillon_window import PATIENCE, SYSTEM_ONE, SYSTEM_TWO, QuillonWindow
+from window_titles import MAIN
 
 
 class TwoSystems(ProgramCase):
@@ -48,7 +49,7 @@ class TwoSystems(ProgramCase):
         with QuillonWindow(self.program) as window:
             second = subprocess.run([self.program], capture_output=True, timeout=PATIENCE, check=False)
             self.assertEqual((second.returncode, second.stdout), (0, b""))
-            shown = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", TITLE],
+            shown = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", MAIN],
                                    capture_output=True, text=True, timeout=PATIENCE, check=False)
             self.assertEqual(shown.stdout.split(), [window.id])
             window.wait_for_names("Antenna System ERP, System 1: 0.00 W")

@@ -6,9 +6,9 @@ import tempfile
 from full_disk_places import FullDisk, NoInodes, ReadOnly
 from kill_restart_display import Display, display
 from kill_restart_files import FIRST_PAIR, MAKER_STATES, MODEL, SYSTEMS, first_systems, parse
-from kill_restart_session import EDITOR, MAIN, ROOT, SAVE, UPDATE, NotSeen, Session, settings_for
+from kill_restart_session import ROOT, NotSeen, Session, settings_for
+from window_titles import CLOSING, EDITOR, MAIN, SAVE, UPDATE
 
-CLOSING = "Save Configured System?"
 MAKER = "aaa"  # the first of the list
 POWER = "250"
 NEW_PAIR = "newpair"

@@ -6,7 +6,6 @@ import shutil
 import socket
 import stat
 import time
-from pathlib import Path
 
 MIB = 1 << 20
 

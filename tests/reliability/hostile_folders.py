@@ -36,8 +36,8 @@ def lay_out_usual(work, program, choices):
     subprocess.run([ROOT / "scripts" / "lay-out-program-folder.sh", ROOT / "data", work / "usual"], check=True)
     tools = work / "tools"
     tools.mkdir()
-    for file in (ROOT / "scripts" / "on-virtual-display.sh", HERE / "hostile_folder_run.py", HERE / "hostile_folder_list.py",
-                 program, choices):
+    for file in (ROOT / "scripts" / "on-virtual-display.sh", ROOT / "scripts" / "window_titles.py",
+                 HERE / "hostile_folder_run.py", HERE / "hostile_folder_list.py", program, choices):
         shutil.copy2(file, tools)
     return tools
 

@@ -22,7 +22,8 @@ import time
 
 from kill_restart_display import Display, display
 from kill_restart_files import MODEL, Expected
-from kill_restart_session import EDITOR, MAIN, ROOT, SAVE, UPDATE, NotSeen, Session, settings_for
+from kill_restart_session import ROOT, NotSeen, Session, settings_for
+from window_titles import EDITOR, MAIN, SAVE, UPDATE
 
 ROUNDS_PER_FOLDER = 25
 SAVES_PER_ROUND = 5

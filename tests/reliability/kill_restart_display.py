@@ -7,7 +7,6 @@ import ctypes
 import os
 import subprocess
 import tempfile
-import time
 
 PATIENCE = 60  # seconds
 VIEWABLE = 2

@@ -3,15 +3,13 @@
 import os
 import pathlib
 import subprocess
+import sys
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-MAIN = "ERP / Attenuation Calculator"
-SPLASH = "Quillon"
-LOAD = "Load an Antenna System"
-SAVE = "Save Current Antenna System"
-UPDATE = "Save Antenna System"
-EDITOR = "Manage Antenna Database"
+sys.path.insert(0, str(ROOT / "scripts"))
+
+from window_titles import LOAD, MAIN, SPLASH  # noqa: E402
 
 START_LIMIT = 60  # seconds, on a machine that does much else
 ANSWER_LIMIT = 60

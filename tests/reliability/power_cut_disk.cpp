@@ -16,17 +16,20 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <mutex>
+#include <optional>
 #include <random>
 #include <span>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -175,6 +178,16 @@ int Flush(const char* /*path*/, int /*onlyData*/, fuse_file_info* /*file*/)
     return 0;
 }
 
+std::optional<std::vector<char>> ReadImage(const std::filesystem::path& path)
+{
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    std::vector<char> bytes(error ? 0 : size);
+    std::ifstream file(path, std::ios::binary);
+    const bool isRead = !error && file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return isRead ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
 /// Empty blocks stay holes.
 bool WriteImage(const std::string& path, const std::vector<char>& bytes)
 {
@@ -226,8 +239,12 @@ int main(int argc, char* argv[])
         std::cerr << "usage: quillon_reliability_disk FOLDER IMAGE\n";
         return 2;
     }
-    std::ifstream image(argv[2], std::ios::binary);
-    Disk disk(std::vector<char>(std::istreambuf_iterator<char>(image), {}));
+    std::optional<std::vector<char>> image = ReadImage(argv[2]);
+    if (!image) {
+        std::cerr << "no image " << argv[2] << '\n';
+        return 1;
+    }
+    Disk disk(std::move(*image));
     std::thread(TakeCuts, std::ref(disk)).detach(); // it ends with the process
     return Serve(argv[0], argv[1], disk);
 }

@@ -21,19 +21,9 @@ ROOT = HERE.parents[1]
 sys.path[:0] = [str(ROOT / "scripts"), str(ROOT / "tests" / "support")]
 
 from private_printer import PrivatePrinter  # noqa: E402
-from quillon_window import QuillonWindow, wait_for  # noqa: E402
+from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, wait_for  # noqa: E402
 from session_trace_log import TRACED, TraceLog  # noqa: E402
-
-SAVE = "Save Current Antenna System"
-LOAD = "Load an Antenna System"
-PRINT = "Print Report"
-EDITOR = "Manage Antenna Database"
-TABLE = "dB Calculation Table"
-ABOUT = "About Quillon"
-HELP = "Quillon Help"
-
-SYSTEM_ONE = {"coax": ("BELDEN", "8267 RG-213"), "antenna": ("HY-GAIN", "TH7DX", "20 Meters")}
-SYSTEM_TWO = {"coax": ("TIMES MICROWAVE", "LMR-400"), "antenna": ("M2", "2M9", "2 Meters")}
+from window_titles import ABOUT, EDITOR, HELP, LOAD, PRINT, SAVE, TABLE  # noqa: E402
 
 # Written outside the data folder, with the reason. @ stands for the folder that the session's own home is in, % for the
 # one that the desktop gives a session.

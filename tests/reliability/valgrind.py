@@ -13,7 +13,6 @@ import re
 import subprocess
 import sys
 import time
-from concurrent.futures import ThreadPoolExecutor
 
 SUPPRESSIONS = pathlib.Path(__file__).with_name("valgrind.supp")
 VALGRIND = ["valgrind", "--quiet", "--error-exitcode=9", "--leak-check=full", "--show-leak-kinds=all",

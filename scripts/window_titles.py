@@ -1,0 +1,13 @@
+"""Titles of the program's windows, by which whoever works it from outside knows them."""
+
+MAIN = "ERP / Attenuation Calculator"
+SPLASH = "Quillon"
+SAVE = "Save Current Antenna System"
+UPDATE = "Save Antenna System"
+LOAD = "Load an Antenna System"
+PRINT = "Print Report"
+EDITOR = "Manage Antenna Database"
+TABLE = "dB Calculation Table"
+ABOUT = "About Quillon"
+HELP = "Quillon Help"
+CLOSING = "Save Configured System?"
