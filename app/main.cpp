@@ -1,6 +1,8 @@
 #include "app/program.h"
 #include "app/program_icon.h"
+#include "app/unwritable_folder.h"
 #include "store/program_folder.h"
+#include "ui/platform/message_notifier.h"
 #include "ui/platform/single_instance.h"
 #include "ui/startup/splash.h"
 #include "ui/widgets/quillon_style.h"
@@ -28,6 +30,9 @@ int main(int argc, char* argv[])
         return 0;
     }
     ui::QuillonStyle::Install(application);
+    store::FileCalls calls;
+    ui::MessageNotifier notifier;
+    TellUnwritableFolder(calls, folder, notifier);
 
     std::optional<Program> program;
     ui::Splash splash([&program, &folder] { program.emplace(folder).Show(); }, {});

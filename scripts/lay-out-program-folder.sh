@@ -49,7 +49,7 @@ is_proper() { [[ "$1" =~ ^((Antennas|Coax|Help)/)?[^/]+$ && "${1##*/}" != . && "
 # A folder that is a link leads to something else of its user's.
 is_in_own_folder() { [[ "$1" != */* || ! -L "$folder/${1%/*}" ]]; }
 
-is_plain() { [[ -f "$folder/$1" && ! -L "$folder/$1" ]] && is_in_own_folder "$1"; }
+is_plain() { [[ -f "$folder/$1" && -r "$folder/$1" && ! -L "$folder/$1" ]] && is_in_own_folder "$1"; }
 
 declare -A laid_out=() now=() present=() taken=()
 
@@ -73,13 +73,15 @@ read_shipped() {
     done <<<"$1"
 }
 
+# What cannot be read is somebody's. A checksum that fails ends the run, or every file would pass for a changed one.
 read_present() {
-    local name line
-    while IFS= read -r line; do
-        present[${line#*  }]=${line%% *}
-    done < <(for name in "${!now[@]}" "${!laid_out[@]}"; do
+    local name line lines
+    lines=$(for name in "${!now[@]}" "${!laid_out[@]}"; do
         if is_plain "$name"; then printf '%s\0' "$name"; fi
     done | checksums_in "$folder")
+    while IFS= read -r line; do
+        [[ -z "$line" ]] || present[${line#*  }]=${line%% *}
+    done <<<"$lines"
 }
 
 # A name that differs in letter case alone would be a second candidate for the same maker.
@@ -151,14 +153,17 @@ write_record() { # LINES
 
 # Looks at the file once more: a person may have saved it in the meantime.
 bring() { # NAME
-    local path
+    local path here
     path=$(staged_path "$1")
     if [[ "$1" == "$program" ]]; then
         mv -f --no-target-directory "$path" "$folder/$1"
     elif ! is_there "$1"; then
         mv --no-clobber --no-target-directory "$path" "$folder/$1"
-    elif [[ "$(printf '%s\0' "$1" | checksums_in "$folder")" == "${present[$1]:-} "* ]]; then
-        mv -f --no-target-directory "$path" "$folder/$1"
+    else
+        here=$(printf '%s\0' "$1" | checksums_in "$folder")
+        if [[ "${here%% *}" == "${present[$1]:-}" ]]; then
+            mv -f --no-target-directory "$path" "$folder/$1"
+        fi
     fi
 }
 

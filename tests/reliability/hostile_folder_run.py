@@ -15,6 +15,7 @@ from pathlib import Path
 from hostile_folder_list import FOLDERS
 from window_titles import ABOUT, MAIN, SPLASH, TABLE
 
+UNWRITABLE = "Folder Cannot Be Written"
 PATIENCE = 60
 # Save, load, print, the editor, the table, the help.
 COMMANDS = ["ctrl+s", "ctrl+o", "ctrl+r", "ctrl+m", "ctrl+t", "F1"]
@@ -47,6 +48,7 @@ class Run:
     def __init__(self, folder):
         self._began = time.monotonic()
         self._process = subprocess.Popen([folder / "Quillon"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._was_told = False
 
     def wait_for(self, what, condition, patience=PATIENCE):
         deadline = time.monotonic() + patience
@@ -58,10 +60,18 @@ class Run:
             time.sleep(0.005)
         raise Trouble(f"waited {patience} s for {what}; \"{active()}\" is in front")
 
+    def _splash(self):
+        """The splash window; a message that comes before it is answered, once."""
+        message = "" if self._was_told else shown(UNWRITABLE)
+        if message:
+            self._was_told = True
+            xdotool("windowactivate", "--sync", message, "key", "Return")
+        return shown(SPLASH)
+
     def start(self):
         """Returns the seconds that the program itself took: to the splash, and from the click on it to the first command's
         window. Nobody waits for the splash's own time."""
-        splash = self.wait_for("the splash window", lambda: shown(SPLASH))
+        splash = self.wait_for("the splash window", self._splash)
         to_splash = time.monotonic() - self._began
         clicked = time.monotonic()
         xdotool("mousemove", "--window", splash, "20", "20", "click", "1")

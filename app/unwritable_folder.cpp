@@ -1,0 +1,30 @@
+#include "app/unwritable_folder.h"
+
+#include <cerrno>
+#include <string>
+
+namespace quillon {
+
+namespace {
+
+bool IsForbidden(store::FileCalls& calls, const std::filesystem::path& folder)
+{
+    return calls.MayWrite(folder.c_str()) != 0 && (errno == EACCES || errno == EPERM || errno == EROFS);
+}
+
+} // namespace
+
+void TellUnwritableFolder(store::FileCalls& calls, const store::ProgramFolder& folder, engine::Notifier& notifier)
+{
+    for (const std::filesystem::path& place : {folder.Path(), folder.AntennaFolder()}) {
+        if (IsForbidden(calls, place)) {
+            notifier.Inform("The folder " + place.string() +
+                                " cannot be written. Quillon computes and prints all the same, but it cannot save "
+                                "systems or antennas there.",
+                            "Folder Cannot Be Written");
+            return;
+        }
+    }
+}
+
+} // namespace quillon
