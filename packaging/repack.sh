@@ -7,9 +7,13 @@ rm -rf "$scratch"
 mkdir -p "$scratch"
 trap 'rm -rf "$scratch"' EXIT
 
+# As readable as everything in a system is, whoever packs.
+as_in_a_system() { chmod --recursive u=rwX,go=rX "$scratch"; }
+
 case "$package" in
 *.tar.gz)
     tar --extract --gzip --file "$package" --directory "$scratch"
+    as_in_a_system
     find "$scratch" -mindepth 1 -printf '%P\0' | LC_ALL=C sort -z |
         tar --create --directory "$scratch" --null --no-recursion --files-from - --format gnu \
             --owner root:0 --group root:0 --mtime "@${SOURCE_DATE_EPOCH:-$(date +%s)}" |
@@ -17,6 +21,7 @@ case "$package" in
     ;;
 *.deb)
     dpkg-deb --raw-extract "$package" "$scratch"
+    as_in_a_system
     LC_ALL=C sort --key 2 --output "$scratch/DEBIAN/md5sums" "$scratch/DEBIAN/md5sums"
     dpkg-deb --root-owner-group -Zxz --build "$scratch" "$package.new" >/dev/null
     ;;

@@ -2,6 +2,7 @@
 
 MAIN = "ERP / Attenuation Calculator"
 SPLASH = "Quillon"
+UNWRITABLE = "Folder Cannot Be Written"
 SAVE = "Save Current Antenna System"
 UPDATE = "Save Antenna System"
 LOAD = "Load an Antenna System"

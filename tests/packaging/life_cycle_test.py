@@ -20,8 +20,8 @@ sys.argv[1] = os.devnull
 
 from program_case import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, contents  # noqa: E402
 from quillon_window import QuillonWindow, name_of, wait_for  # noqa: E402
+from window_titles import LOAD, MAIN, SAVE, UNWRITABLE  # noqa: E402
 
-MESSAGE = "Folder Cannot Be Written"
 
 
 def package(pattern):
@@ -92,7 +92,7 @@ class LifeCycle(PackageCase):
             window.choose_system(2, **SYSTEM_TWO)
             window.wait_for_names(*BOTH_ERPS)
             window.press("ctrl+s")
-            window.wait_for_dialog("Save Current Antenna System")
+            window.wait_for_dialog(SAVE)
             window.press("alt+s")
             wait_for("the saved pair", (self.folder / "QuillonSystems.dat").read_bytes)
             window.press("Return")
@@ -102,7 +102,7 @@ class LifeCycle(PackageCase):
         with QuillonWindow(self.system.launcher) as window:
             program = os.readlink(f"/proc/{window._process.pid}/exe")
             window.press("ctrl+o")
-            window.wait_for_dialog("Load an Antenna System")
+            window.wait_for_dialog(LOAD)
             window.press("alt+l")
             window.wait_for_no_dialog()
             window.wait_for_names(*BOTH_ERPS)
@@ -189,14 +189,14 @@ class ToldWindow(QuillonWindow):
 
     def _end_splash(self):
         wait_for("the program on the accessibility bus", self._application)
-        wait_for("the message", lambda: self._active(MESSAGE))
-        assert not self.id_of("ERP / Attenuation Calculator"), "the message comes before the window"
+        wait_for("the message", lambda: self._active(UNWRITABLE))
+        assert not self.id_of(MAIN), "the message comes before the window"
         self.said = " ".join(filter(None, map(name_of, self._message_parts())))
         self.press("Return")
         super()._end_splash()
 
     def _message_parts(self):
-        box = self.window(MESSAGE)
+        box = self.window(UNWRITABLE)
         return [box.get_child_at_index(index) for index in range(box.get_child_count())]
 
 

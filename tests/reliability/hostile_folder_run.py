@@ -13,9 +13,8 @@ import time
 from pathlib import Path
 
 from hostile_folder_list import FOLDERS
-from window_titles import ABOUT, MAIN, SPLASH, TABLE
+from window_titles import ABOUT, MAIN, SPLASH, TABLE, UNWRITABLE
 
-UNWRITABLE = "Folder Cannot Be Written"
 PATIENCE = 60
 # Save, load, print, the editor, the table, the help.
 COMMANDS = ["ctrl+s", "ctrl+o", "ctrl+r", "ctrl+m", "ctrl+t", "F1"]
