@@ -204,6 +204,21 @@ class Results(ProgramCase):
             window.type("200")
             self.expect(window, WITH_CONNECTORS, WITH_200_WATTS)
 
+    def test_a_spin_control_is_read_as_the_figure_that_it_sets(self):
+        with QuillonWindow(self.program) as window:
+            for system in (1, 2):
+                spin = next(element for element in everything_below(window.window(MAIN))
+                            if name_of(element) == f"System {system} power, coarse")
+                window.tab_to(f"System {system} power, coarse")
+                self.assertEqual(self.value(spin), 100)
+                window.press("Up")
+                wait_for("110 W", lambda: self.value(spin) == 110, lambda: self.value(spin))
+
+    @staticmethod
+    def value(element):
+        element.clear_cache()
+        return Atspi.Value.get_current_value(element)
+
     def marks(self, window):
         """What stands at the sides of the rows, by rows."""
         pictures = [element for element in everything_below(window.window(MAIN)) if element.get_role() == Atspi.Role.IMAGE]

@@ -68,6 +68,8 @@ void CoaxDataFrame::LayOut()
 
 void CoaxDataFrame::Wire()
 {
+    m_lengthSpin->SetFigure([](int position) { return engine::SpinToCoaxLength(static_cast<float>(position)).value; });
+    m_connectorSpin->SetFigure([](int position) { return engine::SpinToConnectors(position); });
     connect(m_length, &QLineEdit::textChanged, this, &CoaxDataFrame::txtCoaxLength_Change);
     connect(m_lengthSpin, &SpinControl::valueChanged, this, &CoaxDataFrame::vsCoaxLength_Change);
     connect(m_connectors, &QLineEdit::textChanged, this, &CoaxDataFrame::txtNumConnectors_Change);

@@ -29,6 +29,7 @@ FrequencyFrame::FrequencyFrame(engine::SystemId system, Workspace& workspace, Sy
     Name();
     LayOut();
     connect(m_text, &QLineEdit::textChanged, this, &FrequencyFrame::txtFrequency_Change);
+    m_spin->SetFigure([](int position) { return engine::BandFrequency(position).frequency; });
     connect(m_spin, &SpinControl::valueChanged, this, &FrequencyFrame::vsFrequency_Change);
 }
 

@@ -16,6 +16,13 @@ namespace {
 constexpr std::string_view kVSWRMask = "0.0";
 constexpr float kStartVSWR = 1.1F;
 
+/// The standing-wave ratio that the positions of both spin controls stand for.
+float RatioOf(int whole, int tenths)
+{
+    const auto sum = static_cast<float>(tenths * 0.1 + whole);
+    return engine::RoundWithMask(engine::SpinToVSWR(engine::RoundWithMask(sum, kVSWRMask)).value, kVSWRMask);
+}
+
 } // namespace
 
 VSWRFrame::VSWRFrame(engine::SystemId system, Workspace& workspace, QWidget* parent)
@@ -28,6 +35,8 @@ VSWRFrame::VSWRFrame(engine::SystemId system, Workspace& workspace, QWidget* par
     Name();
     LayOut();
     ShowVSWR(kStartVSWR);
+    m_whole->SetFigure([this](int position) { return RatioOf(position, m_tenths->value()); });
+    m_tenths->SetFigure([this](int position) { return RatioOf(m_whole->value(), position); });
     connect(m_whole, &SpinControl::valueChanged, this, &VSWRFrame::vsVSWR_Change);
     connect(m_tenths, &SpinControl::valueChanged, this, &VSWRFrame::vsVSWR_Change);
 }
@@ -78,10 +87,8 @@ QList<QWidget*> VSWRFrame::TabOrder() const
 
 void VSWRFrame::vsVSWR_Change()
 {
-    const auto sum = static_cast<float>(m_tenths->value() * 0.1 + m_whole->value());
-    const float ratio = engine::SpinToVSWR(engine::RoundWithMask(sum, kVSWRMask)).value;
-    Compute(*m_text, [&] {
-        Data().VSWR = engine::RoundWithMask(ratio, kVSWRMask);
+    Compute(*m_text, [this] {
+        Data().VSWR = RatioOf(m_whole->value(), m_tenths->value());
         ShowVSWR(Data().VSWR);
     });
 }

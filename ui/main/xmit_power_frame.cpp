@@ -65,6 +65,8 @@ void XmitPowerFrame::Wire()
 {
     m_text->installEventFilter(this);
     connect(m_text, &QLineEdit::textChanged, this, &XmitPowerFrame::txtOutputPower_Change);
+    m_coarse->SetFigure([](int position) { return engine::SpinToOutputPower(static_cast<float>(position)).value; });
+    m_fine->SetFigure([this](int position) { return engine::SpinToOutputPower(BothPositions(position)).value; });
     connect(m_coarse, &SpinControl::valueChanged, this, &XmitPowerFrame::vsOutputPower_CoarseChange);
     connect(m_fine, &SpinControl::valueChanged, this, &XmitPowerFrame::vsOutputPower_FineChange);
 }
@@ -109,7 +111,12 @@ void XmitPowerFrame::vsOutputPower_CoarseChange()
 
 void XmitPowerFrame::vsOutputPower_FineChange()
 {
-    TakePosition(static_cast<float>(m_fine->value() * 0.1 + m_coarse->value()));
+    TakePosition(BothPositions(m_fine->value()));
+}
+
+float XmitPowerFrame::BothPositions(int fine) const
+{
+    return static_cast<float>(fine * 0.1 + m_coarse->value());
 }
 
 void XmitPowerFrame::TakePosition(float position)

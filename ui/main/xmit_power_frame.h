@@ -32,6 +32,7 @@ private:
     void Name();
     void LayOut();
     void Wire();
+    [[nodiscard]] float BothPositions(int fine) const;
     void TakePosition(float position);
     void ColourText(float watts);
 

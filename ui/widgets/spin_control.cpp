@@ -1,7 +1,9 @@
 #include "ui/widgets/spin_control.h"
 
 #include "ui/widgets/looks.h"
+#include "ui/widgets/spoken_spin.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QHoverEvent>
 #include <QPainter>
@@ -31,6 +33,7 @@ SpinControl::SpinControl(const SpinRange& range, SpinLook look, QWidget* parent)
     : QAbstractSlider(parent)
     , m_look(look)
 {
+    QAccessible::installFactory(MakeSpokenSpin); // any further call is without effect
     setOrientation(Qt::Vertical);
     setRange(range.lowest, range.highest);
     setSingleStep(range.arrowStep);

@@ -2,6 +2,9 @@
 
 #include <QAbstractSlider>
 
+#include <functional>
+#include <utility>
+
 class QStyleOptionButton;
 
 namespace quillon::ui {
@@ -28,6 +31,12 @@ class SpinControl : public QAbstractSlider
 
 public:
     SpinControl(const SpinRange& range, SpinLook look, QWidget* parent = nullptr);
+
+    /// What a position stands for is told to screen readers in place of it.
+    void SetFigure(std::function<double(int position)> figure) { m_figure = std::move(figure); }
+
+    /// The figure that a position stands for, where that is known, and else the position.
+    [[nodiscard]] double FigureAt(int position) const { return m_figure ? m_figure(position) : position; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -60,6 +69,7 @@ private:
     void PaintChevrons(QPainter& painter, Arrow arrow) const;
 
     SpinLook m_look;
+    std::function<double(int position)> m_figure;
     Arrow m_hovered = Arrow::None;
     Arrow m_held = Arrow::None; ///< arrow that the mouse button went down on
     bool m_down = false;        ///< the pointer is still on it

@@ -1,6 +1,7 @@
 #include "tests/support/row_name.h"
 #include "tests/ui/main/window_fixture.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
@@ -75,6 +76,42 @@ INSTANTIATE_TEST_SUITE_P(Lists, Spoken,
                                            SpokenRow{"cboSystemTwoCoax(0)", "System 2 coax brand"},
                                            SpokenRow{"cboSystemTwoCoax(1)", "System 2 coax type"}),
                          support::RowName());
+
+/// The figure that a screen reader reads at a spin control, and the one that it sets at most.
+struct FigureRow
+{
+    const char* name;
+    double figure;
+    double next; ///< after the upper arrow
+    double highest;
+};
+
+class SpokenFigure : public WindowTest, public ::testing::WithParamInterface<FigureRow>
+{
+};
+
+TEST_P(SpokenFigure, IsTheOneInTheBoxAndRisesWithTheUpperArrow)
+{
+    Open();
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&Spin(GetParam().name));
+    ASSERT_NE(spoken->valueInterface(), nullptr);
+    EXPECT_EQ(spoken->valueInterface()->currentValue().toDouble(), GetParam().figure);
+    EXPECT_EQ(spoken->valueInterface()->maximumValue().toDouble(), GetParam().highest);
+    ClickUp(GetParam().name);
+    EXPECT_EQ(spoken->valueInterface()->currentValue().toDouble(), GetParam().next);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Spins, SpokenFigure,
+    ::testing::Values(FigureRow{"vsOutputPower(0)", 100, 110, 1510}, FigureRow{"vsOutputPower(1)", 100, 101, 101},
+                      FigureRow{"vsOutputPower(2)", 100, 110, 1510}, FigureRow{"vsOutputPower(3)", 100, 101, 101},
+                      FigureRow{"vsFrequency(1)", 14.25, 18.14, 432.1},
+                      FigureRow{"vsFrequency(2)", 14.25, 18.14, 432.1}, FigureRow{"vsVSWR(0)", 1.1, 2.1, 3.1},
+                      FigureRow{"vsVSWR(1)", 1.1, 1.2, 1.9}, FigureRow{"vsVSWR(2)", 1.1, 2.1, 3.1},
+                      FigureRow{"vsVSWR(3)", 1.1, 1.2, 1.9}, FigureRow{"vsSystemOneCoaxLength", 100, 101, 3499},
+                      FigureRow{"vsSystemTwoCoaxLength", 100, 101, 3499},
+                      FigureRow{"vsSystemOneNumConnectors", 2, 3, 24}, FigureRow{"vsSystemTwoNumConnectors", 2, 3, 24}),
+    support::RowName());
 
 TEST_F(WindowTest, EverySpinControlTakesTheFocusByKeyboard)
 {

@@ -194,6 +194,32 @@ TEST_F(Spin, IsASliderToScreenReaders)
     EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 1400);
 }
 
+TEST_F(Spin, TellsScreenReadersTheFigureThatItsPositionStandsFor)
+{
+    m_spin->SetFigure([](int position) { return 1500 - position; });
+    QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(m_spin)->valueInterface();
+    EXPECT_EQ(value->currentValue().toDouble(), 100);
+    EXPECT_EQ(value->minimumValue().toDouble(), 1);
+    EXPECT_EQ(value->maximumValue().toDouble(), 1510);
+}
+
+TEST_F(Spin, TellsScreenReadersAFigureWithoutTheRestOfItsSinglePrecision)
+{
+    m_spin->SetFigure([](int) { return 3.85F; });
+    QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(m_spin)->valueInterface();
+    EXPECT_EQ(value->currentValue().toDouble(), 3.85);
+}
+
+TEST_F(Spin, GoesToTheFigureThatAScreenReaderSets)
+{
+    m_spin->SetFigure([](int position) { return 1500 - position; });
+    QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(m_spin)->valueInterface();
+    value->setCurrentValue(250.4);
+    EXPECT_EQ(m_spin->value(), 1250);
+    value->setCurrentValue(9999);
+    EXPECT_EQ(m_spin->value(), -10);
+}
+
 /// Number of strokes that a line down the middle of the upper arrow crosses.
 int Chevrons(SpinLook look)
 {
