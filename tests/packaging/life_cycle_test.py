@@ -18,8 +18,8 @@ PACKAGES = Path(sys.argv[1]).resolve()
 # The other tests' common part takes its first argument for the program.
 sys.argv[1] = os.devnull
 
-from program_case import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, contents  # noqa: E402
-from quillon_window import QuillonWindow, name_of, wait_for  # noqa: E402
+from program_case import BOTH_ERPS, contents  # noqa: E402
+from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, name_of, wait_for  # noqa: E402
 from window_titles import LOAD, MAIN, SAVE, UNWRITABLE  # noqa: E402
 
 
