@@ -75,7 +75,7 @@ class Interrupted(LauncherCase):
             if ".laid-out.new" not in name:
                 self.assertIn(text, [files.get(name) for files in wholes], f"{name} {described}")
 
-    def sweep(self, begin, wholes, end, ways=("after", "fail", "half")):
+    def sweep(self, begin, wholes, end, ways=("half", "fail", "after")):
         """Does something wrong at each step in turn, each time from the beginning."""
         steps = self.steps_of(begin)
         self.assertGreater(len(steps), 10)

@@ -3,6 +3,7 @@
 
 import fcntl
 import os
+import shutil
 import subprocess
 import sys
 import unittest
@@ -126,28 +127,26 @@ class Links(LauncherCase):
     def test_nothing_is_written_through_them(self):
         outside = self.work / "outside"
         outside.mkdir()
-        (outside / "TWO WORDS.DAT").write_text("first two words")
+        for name in ("STAYS", "DROPPED"):
+            (outside / f"{name}.DAT").write_text(f"first {name.lower()}")
         (outside / "precious").write_text("precious")
+        (outside / "Quillon").write_text("a name that is laid out, too")
         before = contents(outside)
         self.start("first")
-        (self.folder / "Coax/TWO WORDS.DAT").unlink()
-        (self.folder / "Coax").rmdir()
-        (self.folder / "Coax").symlink_to(outside)
-        (self.folder / "Antennas/STAYS.DAT").unlink()
-        (self.folder / "Antennas/STAYS.DAT").symlink_to(outside / "precious")
-        (self.folder / "SOURCES.md").unlink()
-        (self.folder / "SOURCES.md").symlink_to(outside / "nowhere")
+        shutil.rmtree(self.folder / "Antennas")
+        (self.folder / "Antennas").symlink_to(outside)
+        for name, target in {"Coax/TWO WORDS.DAT": "precious", "SOURCES.md": "nowhere", "Quillon": "precious"}.items():
+            (self.folder / name).unlink()
+            (self.folder / name).symlink_to(outside / target)
         (self.folder / ".laid-out.new").symlink_to(outside)
-        (self.folder / "Antennas/.laid-out.new").symlink_to(outside)
-        (self.folder / "Quillon").unlink()
-        (self.folder / "Quillon").symlink_to(outside / "precious")
+        (self.folder / "Help/.laid-out.new").symlink_to(outside)
         self.system.install("second", SECOND)
         self.start("second")
         self.assertEqual(contents(outside), before)
-        self.assertTrue((self.folder / "Coax").is_symlink())
-        self.assertTrue((self.folder / "SOURCES.md").is_symlink())
+        for name in ("Antennas", "Coax/TWO WORDS.DAT", "SOURCES.md"):
+            self.assertTrue((self.folder / name).is_symlink(), name)
         self.assertFalse((self.folder / "Quillon").is_symlink())
-        self.assertEqual((self.folder / "Antennas/CHANGED.DAT").read_text(), "second changed")
+        self.assertEqual((self.folder / "Help/Quillon.hlp").read_text(), "second help")
 
     def test_a_record_of_other_files_removes_none(self):
         self.start("first")
