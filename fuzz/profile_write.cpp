@@ -179,8 +179,9 @@ void Pair::Write(const Edit& edit)
     if (m_batch) {
         m_files.FailAt(0, 0); // gathering an edit is allowed to fail as a whole
     }
-    const bool answer = edit.key ? WritePrivateProfileString(m_store, edit.section, edit.key, edit.value, kFile)
-                                 : m_manager.DeleteSection(edit.section, std::string(kFile));
+    const bool answer = edit.key
+                            ? WritePrivateProfileString(m_store, edit.section, edit.key, edit.value, std::string(kFile))
+                            : m_manager.DeleteSection(edit.section, std::string(kFile));
     if (!edit.IsOneLine()) {
         Expect(!answer, "a text of several lines is refused");
         m_files.FailAt(0, 0);
@@ -233,7 +234,7 @@ void Pair::CheckValue(const std::string& section, const std::string& key)
 {
     m_files.FailAt(0, 0);
     const ProfileModel seen = Seen();
-    const store::PrivateProfile& profile = m_store.Read(kFile);
+    const store::PrivateProfile& profile = m_store.Read(std::string(kFile));
     Expect(profile.Bytes() == seen.Text(), "readers see what is gathered");
     Expect(profile.Value(section, key) == seen.Value(section, key), "a value is that of the first key");
 }

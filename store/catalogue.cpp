@@ -39,6 +39,13 @@ void Clear(BandTable& table)
     table.fill({blank, blank, blank});
 }
 
+void SetUnit(BandTable& table, const std::string& unit)
+{
+    for (BandColumn& column : table) {
+        column.unit = unit;
+    }
+}
+
 bool IsGainKey(std::string_view key, std::string_view band)
 {
     return EqualNames(key, std::string("Gain").append(band));
@@ -63,34 +70,37 @@ Catalogue::Catalogue(ProgramFolder folder, std::shared_ptr<ProfileStore> store)
 {
 }
 
-std::string Catalogue::GetDataFileList(std::string_view kind) const
+std::vector<std::string> Catalogue::MakersWithFiles(std::string_view kind) const
 {
     if (kind != "Antennas" && kind != "Cables") {
         return {};
     }
-    std::string makers;
     const std::filesystem::path folder = kind == "Antennas" ? m_folder.AntennaFolder() : m_folder.CoaxFolder();
+    std::vector<std::string> makers;
     for (const std::string& file : ListFiles(m_store->Calls(), folder)) {
         const std::size_t length = file.size() - std::min(file.size(), kPattern.size());
         const std::string_view maker = std::string_view(file).substr(0, length);
         const bool isMakerFile = EqualNames(std::string_view(file).substr(length), kPattern);
         if (isMakerFile && FileNameFault(maker) == NameFault::None) {
-            makers.append(maker).push_back('|');
+            makers.emplace_back(maker);
         }
     }
-    return makers.substr(0, makers.find_last_not_of('|') + 1);
+    return makers;
+}
+
+std::string Catalogue::GetDataFileList(std::string_view kind) const
+{
+    std::string list;
+    for (const std::string& maker : MakersWithFiles(kind)) {
+        list.append(maker).push_back('|');
+    }
+    return list.substr(0, list.find_last_not_of('|') + 1);
 }
 
 std::vector<std::string> Catalogue::LoadMakers(std::string_view kind) const
 {
-    std::vector<std::string> makers;
-    const std::string list = GetDataFileList(kind);
-    for (std::size_t begin = 0; begin < list.size();) {
-        const std::size_t end = std::min(list.find('|', begin), list.size());
-        makers.push_back(list.substr(begin, end - begin));
-        begin = end + 1;
-    }
-    SortArrays(makers);
+    std::vector<std::string> makers = MakersWithFiles(kind);
+    SortArrays(makers); // the files came in the order of their whole names
     return makers;
 }
 
@@ -135,6 +145,9 @@ std::vector<std::string> Catalogue::LoadAntennaGain(std::string_view maker, std:
         return bands;
     }
     for (const std::string& key : file->GetAllKeys(model, file->FileName())) {
+        if (EqualNames(key, "GainType")) {
+            SetUnit(table, file->GetValue(model, key, "").substr(0, kCellWidth));
+        }
         for (std::size_t place = 0; place < table.size(); ++place) {
             BandColumn& column = table.at(place);
             if (IsGainKey(key, kBandSuffixes.at(place))) {
@@ -142,9 +155,6 @@ std::vector<std::string> Catalogue::LoadAntennaGain(std::string_view maker, std:
                 column.gain = file->GetValue(model, key, "").substr(0, kCellWidth);
                 bands.push_back(std::string(kBandSuffixes.at(place)).append(" Meters"));
                 continue;
-            }
-            if (EqualNames(key, "GainType")) {
-                column.unit = file->GetValue(model, key, "").substr(0, kCellWidth);
             }
             if (column.covered != "True") {
                 column.covered = "False";

@@ -87,6 +87,7 @@ public:
                                                         std::array<float, 9>& coaxSpec) const;
 
 private:
+    [[nodiscard]] std::vector<std::string> MakersWithFiles(std::string_view kind) const;
     [[nodiscard]] std::vector<std::string> LoadMakers(std::string_view kind) const;
     [[nodiscard]] std::optional<INIManager> Open(std::string_view maker, const std::filesystem::path& file) const;
 

@@ -9,6 +9,7 @@
 #include <dirent.h>
 #include <functional>
 #include <numeric>
+#include <string_view>
 
 namespace quillon::store {
 namespace fs = std::filesystem;
@@ -41,14 +42,15 @@ std::optional<std::vector<std::string>> ListNames(FileCalls& calls, const fs::pa
     if (calls.List(folder.empty() ? "." : folder.c_str(), entries) != 0) {
         return TellsOfNothing(errno) ? std::optional<std::vector<std::string>>(std::in_place) : std::nullopt;
     }
-    std::vector<std::string> names;
-    for (FolderEntry& entry : entries) {
+    std::vector<std::string_view> names; // which are moved about more quickly than strings
+    names.reserve(entries.size());
+    for (const FolderEntry& entry : entries) {
         if (isWanted(entry)) {
-            names.push_back(std::move(entry.name));
+            names.emplace_back(entry.name);
         }
     }
     std::sort(names.begin(), names.end());
-    return names;
+    return std::vector<std::string>(names.begin(), names.end());
 }
 
 /// @param other  as long as name.

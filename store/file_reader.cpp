@@ -1,5 +1,6 @@
 #include "store/file_reader.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 
@@ -21,11 +22,12 @@ FileStatus StatusOf(const struct stat& status)
 
 /// Fills the buffer. @return false on a read error, or when the file is cut meanwhile: somebody is writing it, and a
 /// part of it must not pass for the whole.
-bool FillFrom(FileCalls& calls, int descriptor, std::string& buffer)
+bool FillFrom(FileCalls& calls, int descriptor, Bytes& buffer)
 {
+    const std::size_t size = buffer.View().size();
     std::size_t length = 0;
-    while (length < buffer.size()) {
-        const ssize_t count = calls.Read(descriptor, buffer.data() + length, buffer.size() - length);
+    while (length < size) {
+        const ssize_t count = calls.Read(descriptor, buffer.Data() + length, size - length);
         if (count > 0) {
             length += static_cast<std::size_t>(count);
         } else if (count == 0 || errno != EINTR) {
@@ -46,24 +48,27 @@ FileStatus InspectFile(FileCalls& calls, const char* path)
     return {errno == ENOENT || errno == ENOTDIR ? FileState::Missing : FileState::Refused, {}};
 }
 
-FileStatus ReadFile(FileCalls& calls, const char* path, std::string& bytes)
+FileStatus ReadFile(FileCalls& calls, const char* path, Bytes& bytes)
 {
-    bytes.clear();
-    FileStatus found = InspectFile(calls, path);
-    if (found.state != FileState::Regular) {
-        return found;
-    }
+    bytes = {};
+    const FileStatus found = InspectFile(calls, path);
+    return found.state == FileState::Regular ? ReadInspectedFile(calls, path, bytes) : found;
+}
+
+FileStatus ReadInspectedFile(FileCalls& calls, const char* path, Bytes& bytes, std::size_t most)
+{
+    bytes = {};
     // Another thing may stand there by now: opening a pipe must not wait for its writer.
     const OpenFile file(calls, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     struct stat status = {};
     if (!file || calls.Fstat(file.Descriptor(), &status) != 0) {
         return {FileState::Refused, {}};
     }
-    found = StatusOf(status);
+    FileStatus found = StatusOf(status);
     if (found.state == FileState::Regular) {
-        bytes.resize(static_cast<std::size_t>(status.st_size));
+        bytes = Bytes(std::min(static_cast<std::size_t>(status.st_size), most));
         if (!FillFrom(calls, file.Descriptor(), bytes)) {
-            bytes.clear();
+            bytes = {};
             found.state = FileState::Refused;
         }
     }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "store/bytes.h"
 #include "store/file_calls.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
 namespace quillon::store {
 
@@ -41,6 +41,9 @@ struct FileStatus
 /// Reads a whole file, and only a regular one of at most kLargestFile.
 /// @param bytes  the file's bytes; empty unless the state is Regular.
 /// @return the state that the bytes belong to.
-FileStatus ReadFile(FileCalls& calls, const char* path, std::string& bytes);
+FileStatus ReadFile(FileCalls& calls, const char* path, Bytes& bytes);
+
+/// The same for a file that InspectFile has just found regular, and not beyond a number of bytes.
+FileStatus ReadInspectedFile(FileCalls& calls, const char* path, Bytes& bytes, std::size_t most = kLargestFile);
 
 } // namespace quillon::store

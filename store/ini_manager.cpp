@@ -12,16 +12,17 @@ namespace {
 constexpr std::size_t kValueBuffer = 255;
 constexpr std::size_t kListBuffer = 2048;
 
-std::string Trimmed(std::string_view text)
+std::string_view Trimmed(std::string_view text)
 {
     const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
-    return std::string(text.substr(first, text.find_last_not_of(' ') + 1 - first));
+    return text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
 /// @param names  not closed by a NUL; one empty name when empty.
 std::vector<std::string> SplitAtNuls(std::string_view names)
 {
     std::vector<std::string> result;
+    result.reserve(static_cast<std::size_t>(std::count(names.begin(), names.end(), '\0')) + 1);
     std::size_t nul = names.find('\0');
     while (nul != std::string_view::npos) {
         result.emplace_back(names.substr(0, nul));
@@ -32,11 +33,11 @@ std::vector<std::string> SplitAtNuls(std::string_view names)
     return result;
 }
 
-std::string ReadList(ProfileStore& store, OptionalText section, const std::string& fileName)
+using ListBuffer = std::array<char, kListBuffer>;
+
+std::string_view ReadList(ProfileStore& store, OptionalText section, const std::string& fileName, ListBuffer& buffer)
 {
-    std::array<char, kListBuffer> buffer{};
-    const std::size_t count = GetPrivateProfileString(store, section, {}, "", buffer, fileName);
-    return Trimmed({buffer.data(), count});
+    return Trimmed({buffer.data(), GetPrivateProfileString(store, section, {}, "", buffer, fileName)});
 }
 
 bool WriteTrapped(ProfileStore& store, std::string_view section, OptionalText key, OptionalText value,
@@ -62,7 +63,7 @@ std::string INIManager::GetValue(std::string_view section, std::string_view key,
     try {
         std::array<char, kValueBuffer> buffer{};
         const std::size_t count = GetPrivateProfileString(m_store, section, key, defaultValue, buffer, m_fileName);
-        return Trimmed({buffer.data(), count});
+        return std::string(Trimmed({buffer.data(), count}));
     } catch (const std::exception&) {
         return {};
     }
@@ -75,23 +76,23 @@ bool INIManager::WriteValue(std::string_view section, std::string_view key, std:
 
 std::vector<std::string> INIManager::GetAllSections(const std::string& fileName) const
 {
-    std::string names = ReadList(m_store, {}, fileName);
+    ListBuffer buffer{};
+    const std::string_view names = ReadList(m_store, {}, fileName, buffer);
     const std::size_t lastNul = names.rfind('\0');
     if (lastNul == std::string::npos) {
         return {}; // no sections, or one whose name alone is longer than the buffer
     }
-    names.resize(lastNul);
-    return SplitAtNuls(names);
+    return SplitAtNuls(names.substr(0, lastNul));
 }
 
 std::vector<std::string> INIManager::GetAllKeys(std::string_view section, const std::string& fileName) const
 {
-    std::string names = ReadList(m_store, section, fileName);
+    ListBuffer buffer{};
+    const std::string_view names = ReadList(m_store, section, fileName, buffer);
     if (names.empty()) {
         return {};
     }
-    names.pop_back();
-    return SplitAtNuls(names);
+    return SplitAtNuls(names.substr(0, names.size() - 1));
 }
 
 bool INIManager::CreateSection(std::string_view section, const std::string& fileName)

@@ -2,6 +2,8 @@
 
 #include "store/profile_lines.h"
 
+#include <algorithm>
+
 namespace quillon::store {
 namespace {
 
@@ -9,6 +11,13 @@ namespace {
 void AddName(std::string& names, std::string_view name, std::size_t enough)
 {
     names.append(name.substr(0, enough)).push_back('\0');
+}
+
+/// Most lines are not the one that is looked for, and telling so takes less than parsing them.
+bool BeginsWith(std::string_view line, std::string_view name)
+{
+    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    return EqualNames(line.substr(0, name.size()), name);
 }
 
 } // namespace
@@ -22,11 +31,12 @@ std::optional<std::string_view> PrivateProfile::Value(std::string_view section, 
 std::string PrivateProfile::SectionNames(std::size_t enough) const
 {
     std::string names;
-    for (std::size_t place = 0; place < Index().Count() && names.size() < enough; ++place) {
-        const std::string_view name = Index().Name(m_bytes, place);
-        if (!name.empty()) {
-            AddName(names, name, enough);
+    std::optional<HeaderLine> header = FindHeader(Bytes(), 0);
+    while (header && names.size() < enough) {
+        if (!header->name.empty()) {
+            AddName(names, header->name, enough);
         }
+        header = FindHeader(Bytes(), header->end);
     }
     return names;
 }
@@ -35,9 +45,9 @@ template <class Visitor>
 void PrivateProfile::WalkEntries(std::string_view section, const Visitor& visit) const
 {
     const std::optional<SectionSpan> span = FindSection(section);
-    std::size_t begin = span ? span->body : m_bytes.size();
+    std::size_t begin = span ? span->body : Bytes().size();
     while (span && begin < span->end) {
-        const LineSpan line = LineAt(m_bytes, begin);
+        const LineSpan line = LineAt(Bytes(), begin);
         const ParsedLine parsed = ParseLine(Bytes().substr(line.begin, line.end - line.begin));
         if (parsed.kind == LineKind::Entry && !visit(line, parsed)) {
             return;
@@ -68,103 +78,100 @@ std::vector<ProfileEntry> PrivateProfile::Entries(std::string_view section) cons
     return entries;
 }
 
-bool PrivateProfile::SetValue(std::string_view section, std::string_view key, std::string_view value)
+std::optional<TextChange> PrivateProfile::ValueChange(std::string_view section, std::string_view key,
+                                                      std::string_view value) const
 {
     value = WithoutBlanks(value);
     if (const std::optional<EntrySpan> entry = FindEntry(section, key)) {
         if (Bytes().substr(entry->value, entry->valueLength) == value) {
-            return false;
+            return std::nullopt;
         }
-        Replace(entry->value, entry->valueLength, value);
-        return true;
+        return TextChange{entry->value, entry->valueLength, std::string(value)};
     }
     const std::string newEntry = std::string(WithoutBlanks(key)).append("=").append(value).append(LineEnd());
     const std::optional<SectionSpan> span = FindSection(section);
     if (!span) {
         const std::string header = std::string("[").append(WithoutBlanks(section)).append("]").append(LineEnd());
-        InsertLines(m_bytes.size(), header + newEntry);
-        return true;
+        return Insertion(Bytes().size(), header + newEntry);
     }
     std::size_t behindLastText = span->body;
     for (std::size_t begin = span->body; begin < span->end;) {
-        const LineSpan line = LineAt(m_bytes, begin);
+        const LineSpan line = LineAt(Bytes(), begin);
         if (!WithoutBlanks(Bytes().substr(line.begin, line.end - line.begin)).empty()) {
             behindLastText = line.next;
         }
         begin = line.next;
     }
-    InsertLines(behindLastText, newEntry);
-    return true;
+    return Insertion(behindLastText, newEntry);
 }
 
-bool PrivateProfile::RemoveKey(std::string_view section, std::string_view key)
+std::optional<TextChange> PrivateProfile::KeyRemoval(std::string_view section, std::string_view key) const
 {
     const std::optional<EntrySpan> entry = FindEntry(section, key);
-    if (entry) {
-        Replace(entry->line, entry->next - entry->line, {});
-    }
-    return entry.has_value();
+    return entry ? std::optional(TextChange{entry->line, entry->next - entry->line, {}}) : std::nullopt;
 }
 
-bool PrivateProfile::RemoveSection(std::string_view section)
+std::optional<TextChange> PrivateProfile::SectionRemoval(std::string_view section) const
 {
     const std::optional<SectionSpan> span = FindSection(section);
     if (!span || span->header == span->end) {
-        return false;
+        return std::nullopt;
     }
-    Replace(span->header, span->end - span->header, {});
-    return true;
+    return TextChange{span->header, span->end - span->header, {}};
 }
 
-SectionIndex& PrivateProfile::Index() const
+bool PrivateProfile::Make(const std::optional<TextChange>& change)
 {
-    if (!m_index) {
-        m_index.emplace(m_bytes);
+    if (!change) {
+        return false;
     }
-    return *m_index;
+    // Made anew at its exact size: growing in place would reserve twice the text.
+    store::Bytes changed(Bytes().size() - change->length + change->text.size());
+    char* end = changed.Data();
+    for (const std::string_view part : change->Parts(Bytes())) {
+        end += part.copy(end, part.size());
+    }
+    m_bytes = std::move(changed);
+    m_index = {};
+    return true;
 }
 
 std::optional<SectionSpan> PrivateProfile::FindSection(std::string_view section) const
 {
-    return Index().Find(m_bytes, WithoutBlanks(section));
+    return m_index.Find(Bytes(), WithoutBlanks(section));
 }
 
 std::optional<PrivateProfile::EntrySpan> PrivateProfile::FindEntry(std::string_view section, std::string_view key) const
 {
     const std::string_view name = WithoutBlanks(key);
-    std::optional<EntrySpan> found;
-    WalkEntries(section, [this, name, &found](const LineSpan& line, const ParsedLine& entry) {
-        if (EqualNames(entry.name, name)) {
-            const auto value = static_cast<std::size_t>(entry.value.data() - m_bytes.data());
-            found = {line.begin, line.next, value, entry.value.size()};
+    const SectionSpan span = FindSection(section).value_or(SectionSpan{});
+    for (std::size_t begin = span.body; begin < span.end;) {
+        const LineSpan line = LineAt(Bytes(), begin);
+        const std::string_view text = Bytes().substr(line.begin, line.end - line.begin);
+        if (BeginsWith(text, name)) {
+            const ParsedLine entry = ParseLine(text);
+            if (entry.kind == LineKind::Entry && EqualNames(entry.name, name)) {
+                const auto value = static_cast<std::size_t>(entry.value.data() - Bytes().data());
+                return EntrySpan{line.begin, line.next, value, entry.value.size()};
+            }
         }
-        return !found;
-    });
-    return found;
+        begin = line.next;
+    }
+    return std::nullopt;
 }
 
 std::string_view PrivateProfile::LineEnd() const noexcept
 {
-    const LineSpan first = LineAt(m_bytes, 0);
+    const LineSpan first = LineAt(Bytes(), 0);
     return first.end == first.next ? "\r\n" : Bytes().substr(first.end, first.next - first.end);
 }
 
-void PrivateProfile::InsertLines(std::size_t offset, std::string lines)
+TextChange PrivateProfile::Insertion(std::size_t offset, std::string lines) const
 {
-    if (offset > 0 && m_bytes[offset - 1] != '\n' && m_bytes[offset - 1] != '\r') {
+    if (offset > 0 && Bytes()[offset - 1] != '\n' && Bytes()[offset - 1] != '\r') {
         lines.insert(0, LineEnd()); // the last line of the file has no line end yet
     }
-    Replace(offset, 0, lines);
-}
-
-void PrivateProfile::Replace(std::size_t offset, std::size_t length, std::string_view text)
-{
-    // Made anew at its exact size: growing in place would reserve twice the text.
-    std::string changed;
-    changed.reserve(m_bytes.size() - length + text.size());
-    changed.append(Bytes().substr(0, offset)).append(text).append(Bytes().substr(offset + length));
-    m_bytes = std::move(changed);
-    m_index.reset();
+    return {offset, 0, std::move(lines)};
 }
 
 } // namespace quillon::store

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "store/bytes.h"
 #include "store/section_index.h"
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -18,6 +20,20 @@ struct ProfileEntry
     std::string_view value;
 };
 
+/// What an edit changes of a text: a part of it gives way to another text.
+struct TextChange
+{
+    std::size_t offset;
+    std::size_t length;
+    std::string text;
+
+    /// The new text in three parts, views into both.
+    [[nodiscard]] std::array<std::string_view, 3> Parts(std::string_view before) const noexcept
+    {
+        return {before.substr(0, offset), text, before.substr(offset + length)};
+    }
+};
+
 /// A data file's text as a document of lines: sections of entries, and whatever else stands between them. Editing
 /// touches the line in question only; every other byte stays as it is.
 ///
@@ -28,12 +44,18 @@ class PrivateProfile
 public:
     PrivateProfile() = default;
 
-    explicit PrivateProfile(std::string bytes) noexcept
+    explicit PrivateProfile(store::Bytes bytes) noexcept
         : m_bytes(std::move(bytes))
     {
     }
 
-    [[nodiscard]] std::string_view Bytes() const noexcept { return m_bytes; }
+    explicit PrivateProfile(std::string_view text)
+        : m_bytes(text.size())
+    {
+        text.copy(m_bytes.Data(), text.size());
+    }
+
+    [[nodiscard]] std::string_view Bytes() const noexcept { return m_bytes.View(); }
 
     /// Value of a key as it stands in the file, quotes included. @return nothing when section or key is missing.
     [[nodiscard]] std::optional<std::string_view> Value(std::string_view section, std::string_view key) const;
@@ -50,12 +72,16 @@ public:
     [[nodiscard]] std::vector<ProfileEntry> Entries(std::string_view section) const;
 
     /// Replaces a key's value in place, or adds the key at the end of its section, or section and key at the end of
-    /// the file. @return whether the text changed; it does not when the key has this value already.
-    bool SetValue(std::string_view section, std::string_view key, std::string_view value);
-    /// Takes out a key's line. @return whether the text changed
-    bool RemoveKey(std::string_view section, std::string_view key);
-    /// Takes out a section's header and everything up to the next one. @return whether the text changed
-    bool RemoveSection(std::string_view section);
+    /// the file. @return nothing when the key has this value already.
+    [[nodiscard]] std::optional<TextChange> ValueChange(std::string_view section, std::string_view key,
+                                                        std::string_view value) const;
+    /// Takes out a key's line.
+    [[nodiscard]] std::optional<TextChange> KeyRemoval(std::string_view section, std::string_view key) const;
+    /// Takes out a section's header and everything up to the next one.
+    [[nodiscard]] std::optional<TextChange> SectionRemoval(std::string_view section) const;
+
+    /// @param change  one that this text gave, not changed since. @return whether there was one
+    bool Make(const std::optional<TextChange>& change);
 
 private:
     struct EntrySpan
@@ -66,18 +92,16 @@ private:
         std::size_t valueLength;
     };
 
-    [[nodiscard]] SectionIndex& Index() const;
     [[nodiscard]] std::optional<SectionSpan> FindSection(std::string_view section) const;
     /// @param visit  gets each entry's LineSpan and ParsedLine in file order; false ends the walk.
     template <class Visitor>
     void WalkEntries(std::string_view section, const Visitor& visit) const;
     [[nodiscard]] std::optional<EntrySpan> FindEntry(std::string_view section, std::string_view key) const;
     [[nodiscard]] std::string_view LineEnd() const noexcept;
-    void InsertLines(std::size_t offset, std::string lines);
-    void Replace(std::size_t offset, std::size_t length, std::string_view text);
+    [[nodiscard]] TextChange Insertion(std::size_t offset, std::string lines) const;
 
-    std::string m_bytes;
-    mutable std::optional<SectionIndex> m_index; ///< made at the first look-up and again after a change
+    store::Bytes m_bytes;
+    mutable SectionIndex m_index; ///< grows with the look-ups, and begins again after a change
 };
 
 } // namespace quillon::store

@@ -15,14 +15,20 @@ struct ProfileEdit
     std::optional<std::string> value; ///< none: the key goes
 };
 
+/// What an edit changes of a text; nothing when it is so already.
+[[nodiscard]] inline std::optional<TextChange> ChangeBy(const ProfileEdit& edit, const PrivateProfile& profile)
+{
+    if (!edit.key) {
+        return profile.SectionRemoval(edit.section);
+    }
+    return edit.value ? profile.ValueChange(edit.section, *edit.key, *edit.value)
+                      : profile.KeyRemoval(edit.section, *edit.key);
+}
+
 /// Applies an edit. @return whether the text changed
 inline bool Apply(PrivateProfile& profile, const ProfileEdit& edit)
 {
-    if (!edit.key) {
-        return profile.RemoveSection(edit.section);
-    }
-    return edit.value ? profile.SetValue(edit.section, *edit.key, *edit.value)
-                      : profile.RemoveKey(edit.section, *edit.key);
+    return profile.Make(ChangeBy(edit, profile));
 }
 
 } // namespace quillon::store

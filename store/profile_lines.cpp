@@ -1,19 +1,57 @@
 #include "store/profile_lines.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 namespace quillon::store {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
+using Word = std::uint64_t;
 
-/// Looked through first for the end of a line; twice as much each time that it is not there.
-constexpr std::size_t kUsualLine = 64;
+/// Looked through word by word for the end of a line, which is quickest for the short lines that most are.
+constexpr std::size_t kUsualLine = 16 * sizeof(Word);
 
-/// Offset of the first line end from an offset on, or the text's size. Each of the two characters is looked for by
-/// itself, which is quick, and never far beyond the other one.
+constexpr Word Repeated(unsigned char byte) noexcept
+{
+    return byte * Word{0x0101010101010101};
+}
+
+/// The highest bit of each byte that equals another one; no other bits.
+constexpr Word MarkEqual(Word bytes, unsigned char byte) noexcept
+{
+    const Word difference = bytes ^ Repeated(byte);
+    return ~(((difference & Repeated(0x7F)) + Repeated(0x7F)) | difference) & Repeated(0x80);
+}
+
+/// Place of the first line end in a word, or the word's size.
+std::size_t FirstLineEnd(Word word) noexcept
+{
+    const Word marks = MarkEqual(word, '\n') | MarkEqual(word, '\r');
+    const int before = std::endian::native == std::endian::little ? std::countr_zero(marks) : std::countl_zero(marks);
+    return static_cast<std::size_t>(before) / 8;
+}
+
+bool IsBlank(char character) noexcept
+{
+    return character == ' ' || character == '\t';
+}
+
+/// Offset of the first line end from an offset on, or the text's size.
 std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
 {
+    const std::size_t usual = std::min(begin + kUsualLine, text.size());
+    while (begin + sizeof(Word) <= usual) {
+        Word word = 0;
+        std::memcpy(&word, text.data() + begin, sizeof(Word));
+        const std::size_t found = FirstLineEnd(word);
+        begin += found;
+        if (found < sizeof(Word)) {
+            return begin;
+        }
+    }
+    // Each of the two characters is looked for by itself, which is quick, and never far beyond the other one.
     for (std::size_t length = kUsualLine; begin < text.size(); begin += length, length *= 2) {
         const std::string_view part = text.substr(begin, length);
         const std::string_view line = part.substr(0, part.find('\n'));
@@ -23,6 +61,16 @@ std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
         }
     }
     return text.size();
+}
+
+/// Begin of the line of which the character at an offset is the first but for blanks; nothing when it is not.
+std::optional<std::size_t> LineStartedBy(std::string_view text, std::size_t offset) noexcept
+{
+    while (offset > 0 && IsBlank(text[offset - 1])) {
+        --offset;
+    }
+    const bool isBegin = offset == 0 || text[offset - 1] == '\n' || text[offset - 1] == '\r';
+    return isBegin ? std::optional(offset) : std::nullopt;
 }
 
 } // namespace
@@ -35,6 +83,23 @@ LineSpan LineAt(std::string_view text, std::size_t begin) noexcept
     }
     const bool isPair = text.substr(end, 2) == "\r\n";
     return {begin, end, end + (isPair ? 2 : 1)};
+}
+
+std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept
+{
+    // Brackets are rare: looking for them passes over the other lines without looking at each.
+    std::size_t bracket = text.find('[', from);
+    while (bracket != std::string_view::npos) {
+        const std::optional<std::size_t> begin = LineStartedBy(text, bracket);
+        from = begin ? FindLineEnd(text, bracket) : bracket + 1;
+        const std::string_view name = text.substr(bracket + 1, from - bracket - 1);
+        const std::size_t close = begin ? name.rfind(']') : std::string_view::npos;
+        if (close != std::string_view::npos) {
+            return HeaderLine{*begin, from, WithoutBlanks(name.substr(0, close))};
+        }
+        bracket = text.find('[', from);
+    }
+    return std::nullopt;
 }
 
 ParsedLine ParseLine(std::string_view line) noexcept
@@ -61,8 +126,13 @@ ParsedLine ParseLine(std::string_view line) noexcept
 
 std::string_view WithoutBlanks(std::string_view text) noexcept
 {
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 std::string_view WithoutQuotes(std::string_view value) noexcept
@@ -74,7 +144,7 @@ std::string_view WithoutQuotes(std::string_view value) noexcept
 bool EqualNames(std::string_view left, std::string_view right) noexcept
 {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return FoldCase(a) == FoldCase(b); });
+                      [](char a, char b) { return a == b || FoldCase(a) == FoldCase(b); });
 }
 
 } // namespace quillon::store

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace quillon::store {
@@ -34,6 +35,17 @@ struct ParsedLine
 
 /// @param line  without its line end.
 [[nodiscard]] ParsedLine ParseLine(std::string_view line) noexcept;
+
+/// The line of a section's header.
+struct HeaderLine
+{
+    std::size_t begin;
+    std::size_t end;       ///< behind the last character, before the line end
+    std::string_view name; ///< view into the text
+};
+
+/// The first header line of a text that begins at an offset or behind it. @param from  where a line begins or ends
+[[nodiscard]] std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept;
 
 /// The text without the blanks and tabs around it; of a text of nothing else, the empty view at its end.
 [[nodiscard]] std::string_view WithoutBlanks(std::string_view text) noexcept;

@@ -13,7 +13,15 @@ namespace quillon::store {
 namespace {
 
 constexpr std::size_t kMostDocuments = 8;
-constexpr std::size_t kMostBytes = kLargestFile;
+/// A longer file stays only while no other one is asked for.
+constexpr std::size_t kMostBytes = std::size_t{4} * 1024 * 1024;
+/// Names of models are some 20 times shorter than what stands in their sections.
+constexpr std::size_t kBytesPerCharacter = 20;
+
+std::size_t Size(const FileStamp& stamp)
+{
+    return static_cast<std::size_t>(stamp.size);
+}
 
 /// File times move in steps of the kernel's timer: two changes within one step leave the same time.
 bool IsSettled(const FileStamp& stamp)
@@ -36,11 +44,33 @@ ProfileStore::ProfileStore(FileCalls& calls)
 {
 }
 
-const PrivateProfile& ProfileStore::Read(const std::filesystem::path& file)
+const PrivateProfile& ProfileStore::Read(const std::string& file)
+{
+    return ReadAt(Locate(file));
+}
+
+std::string ProfileStore::SectionNames(const std::string& file, std::size_t enough)
 {
     const Location location = Locate(file);
+    const std::size_t most = kBytesPerCharacter * std::min(enough, kLargestFile);
+    const bool isLong = location.status.state == FileState::Regular && Size(location.status.stamp) > most;
+    if (isLong && !IsHeld(location)) {
+        const std::optional<PrivateProfile> beginning = ReadBeginning(location, most);
+        std::string names = beginning ? beginning->SectionNames(enough) : std::string();
+        if (names.size() >= enough) {
+            return names;
+        }
+    }
+    return ReadAt(location).SectionNames(enough);
+}
+
+const PrivateProfile& ProfileStore::ReadAt(const Location& location)
+{
     if (const auto batch = m_batches.find(location.path); batch != m_batches.end()) {
         return ReadInBatch(batch->second, location);
+    }
+    if (!m_held.empty() && IsCurrent(m_held.front(), location)) {
+        return m_held.front().profile; // as most often: key after key of a file is asked for
     }
     if (location.status.state == FileState::Missing) {
         return m_nothing;
@@ -53,7 +83,7 @@ const PrivateProfile& ProfileStore::Read(const std::filesystem::path& file)
     return Hold(std::move(*document));
 }
 
-bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& edit)
+bool ProfileStore::Edit(const std::string& file, const ProfileEdit& edit)
 {
     const Location location = Locate(file);
     if (location.status.state == FileState::Refused) {
@@ -73,29 +103,52 @@ bool ProfileStore::Edit(const std::filesystem::path& file, const ProfileEdit& ed
     return true;
 }
 
-void ProfileStore::CreateIfMissing(const std::filesystem::path& file)
+void ProfileStore::CreateIfMissing(const std::string& file)
 {
     const NameState state = FindName(m_calls, file).state;
     if (state == NameState::Unknown) {
         NoteFailedRead();
-        throw std::system_error(std::make_error_code(std::errc::io_error), file.string());
+        throw std::system_error(std::make_error_code(std::errc::io_error), file);
     }
     if (state == NameState::Missing) {
         CreateEmptyFile(m_calls, file);
     }
 }
 
-ProfileStore::Location ProfileStore::Locate(const std::filesystem::path& file) const
+ProfileStore::Location ProfileStore::Locate(const std::string& file) const
 {
     const FileStatus status = InspectFile(m_calls, file.c_str());
     if (status.state != FileState::Missing) {
-        return {file.string(), status};
+        return {file, status};
     }
     const FoundName found = FindName(m_calls, file);
     if (found.state == NameState::Unknown) {
-        return {file.string(), {FileState::Refused, {}}};
+        return {file, {FileState::Refused, {}}};
     }
     return {found.path.string(), InspectFile(m_calls, found.path.c_str())};
+}
+
+bool ProfileStore::IsCurrent(const Document& document, const Location& location)
+{
+    const FileStatus& status = location.status;
+    return status.state == FileState::Regular && document.path == location.path && document.IsOf(status.stamp);
+}
+
+bool ProfileStore::IsHeld(const Location& location) const
+{
+    const auto isCurrent = [&location](const Document& document) { return IsCurrent(document, location); };
+    return m_batches.contains(location.path) || std::ranges::any_of(m_held, isCurrent);
+}
+
+std::optional<PrivateProfile> ProfileStore::ReadBeginning(const Location& location, std::size_t most)
+{
+    Bytes bytes;
+    if (ReadInspectedFile(m_calls, location.path.c_str(), bytes, most).state != FileState::Regular) {
+        return std::nullopt;
+    }
+    // What may go on behind the part is no line yet.
+    bytes.Cut(bytes.View().find_last_of("\r\n") + 1);
+    return PrivateProfile(std::move(bytes));
 }
 
 std::optional<ProfileStore::Document> ProfileStore::Take(const Location& location)
@@ -113,8 +166,11 @@ std::optional<ProfileStore::Document> ProfileStore::Take(const Location& locatio
             return document;
         }
     }
-    std::string bytes;
-    const FileStatus found = ReadFile(m_calls, location.path.c_str(), bytes);
+    Bytes bytes;
+    FileStatus found;
+    if (location.status.state == FileState::Regular) {
+        found = ReadInspectedFile(m_calls, location.path.c_str(), bytes);
+    }
     if (found.state == FileState::Refused) {
         return std::nullopt;
     }
@@ -171,19 +227,24 @@ bool ProfileStore::Rewrite(const Location& location, std::span<const ProfileEdit
     if (!document) {
         return false;
     }
+    // The last change is made in the writing only: the usual single one needs no second copy of the text.
     bool isChanged = false;
+    std::optional<TextChange> last;
     for (const ProfileEdit& edit : edits) {
-        isChanged = Apply(document->profile, edit) || isChanged;
+        isChanged = document->profile.Make(last) || isChanged;
+        last = ChangeBy(edit, document->profile);
     }
-    if (!isChanged) {
+    if (!isChanged && !last) {
         Hold(std::move(*document));
         return true;
     }
     const std::string_view text = document->profile.Bytes();
-    return text.size() <= kLargestFile && ReplaceFile(m_calls, location.path, text);
+    const TextChange change = last.value_or(TextChange{text.size(), 0, {}});
+    const std::size_t size = text.size() - change.length + change.text.size();
+    return size <= kLargestFile && ReplaceFile(m_calls, location.path, change.Parts(text));
 }
 
-std::string ProfileStore::BeginBatch(const std::filesystem::path& file)
+std::string ProfileStore::BeginBatch(const std::string& file)
 {
     Location location = Locate(file);
     const auto [batch, isNew] = m_batches.try_emplace(location.path);

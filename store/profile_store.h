@@ -33,12 +33,16 @@ public:
 
     /// The file's document, empty for a file that is missing or cannot be read; with the edits of an open batch.
     /// Valid until the next call on the store.
-    [[nodiscard]] const PrivateProfile& Read(const std::filesystem::path& file);
+    [[nodiscard]] const PrivateProfile& Read(const std::string& file);
+
+    /// PrivateProfile::SectionNames of what Read gives; of a long file that is not in memory only the beginning is
+    /// read, when that is enough.
+    [[nodiscard]] std::string SectionNames(const std::string& file, std::size_t enough);
 
     /// Changes a file on disk, or gathers the edit while a batch on the file is open. A file that would stay as it is
     /// is not written, one that is missing is created.
     /// @return false when the file could not be written; it then stands as before.
-    bool Edit(const std::filesystem::path& file, const ProfileEdit& edit);
+    bool Edit(const std::string& file, const ProfileEdit& edit);
 
     /// How often something could not be read so far. What was read while the number stayed the same is what the files
     /// hold, and may be shown to be changed and written back.
@@ -46,7 +50,7 @@ public:
 
     /// Creates a file empty unless its name stands in the folder. @throws std::system_error when it cannot be created,
     /// or the folder cannot be searched for it.
-    void CreateIfMissing(const std::filesystem::path& file);
+    void CreateIfMissing(const std::string& file);
 
 private:
     friend class ProfileBatch;
@@ -74,7 +78,11 @@ private:
         std::optional<Document> document; ///< the file with the edits, as far as somebody asked for it
     };
 
-    [[nodiscard]] Location Locate(const std::filesystem::path& file) const;
+    [[nodiscard]] Location Locate(const std::string& file) const;
+    const PrivateProfile& ReadAt(const Location& location);
+    [[nodiscard]] static bool IsCurrent(const Document& document, const Location& location);
+    [[nodiscard]] bool IsHeld(const Location& location) const;
+    [[nodiscard]] std::optional<PrivateProfile> ReadBeginning(const Location& location, std::size_t most);
     [[nodiscard]] std::optional<Document> Take(const Location& location);
     const PrivateProfile& Hold(Document document);
     const PrivateProfile& ReadInBatch(Batch& batch, const Location& location);
@@ -82,7 +90,7 @@ private:
     [[nodiscard]] bool IsSpoilt() const;
     [[nodiscard]] bool Rewrite(const Location& location, std::span<const ProfileEdit> edits);
 
-    std::string BeginBatch(const std::filesystem::path& file);
+    std::string BeginBatch(const std::string& file);
     void DropBatch(const std::string& path) noexcept;
     [[nodiscard]] bool CommitBatch(const std::string& path);
 

@@ -48,13 +48,12 @@ std::optional<std::string> Copy(const OptionalText& text)
 } // namespace
 
 std::size_t GetPrivateProfileString(ProfileStore& store, OptionalText section, OptionalText key,
-                                    OptionalText defaultValue, std::span<char> buffer,
-                                    const std::filesystem::path& file)
+                                    OptionalText defaultValue, std::span<char> buffer, const std::string& file)
 {
-    const PrivateProfile& profile = store.Read(file);
     if (!section) {
-        return CopyList(profile.SectionNames(buffer.size()), buffer);
+        return CopyList(store.SectionNames(file, buffer.size()), buffer);
     }
+    const PrivateProfile& profile = store.Read(file);
     if (!key) {
         return CopyList(profile.KeyNames(*section, buffer.size()), buffer);
     }
@@ -64,7 +63,7 @@ std::size_t GetPrivateProfileString(ProfileStore& store, OptionalText section, O
 }
 
 bool WritePrivateProfileString(ProfileStore& store, OptionalText section, OptionalText key, OptionalText value,
-                               const std::filesystem::path& file)
+                               const std::string& file)
 {
     if (!section || !StaysOneLine(section) || !StaysOneLine(key) || !StaysOneLine(value)) {
         return false;

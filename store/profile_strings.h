@@ -3,9 +3,9 @@
 #include "store/profile_store.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace quillon::store {
@@ -19,13 +19,12 @@ using OptionalText = std::optional<std::string_view>;
 /// one more NUL behind the last. A list that does not fit is cut to two less than the buffer.
 /// @return number of characters copied, the closing NUL not counted.
 std::size_t GetPrivateProfileString(ProfileStore& store, OptionalText section, OptionalText key,
-                                    OptionalText defaultValue, std::span<char> buffer,
-                                    const std::filesystem::path& file);
+                                    OptionalText defaultValue, std::span<char> buffer, const std::string& file);
 
 /// Writes a key's value; without value the key goes, without key the section. Deleting what is not there succeeds.
 /// @return false when nothing could be written: no section is named, a text holds a line end or a NUL (it would not
 ///         stay one line), or the file or its folder does not let itself be written.
 bool WritePrivateProfileString(ProfileStore& store, OptionalText section, OptionalText key, OptionalText value,
-                               const std::filesystem::path& file);
+                               const std::string& file);
 
 } // namespace quillon::store

@@ -2,6 +2,7 @@
 
 #include "store/file_names.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <optional>
@@ -54,11 +55,12 @@ bool RemoveIfThere(FileCalls& calls, const std::string& path)
 }
 
 /// @param mode  mode that the file must get; none for a new file.
-bool WriteNewFile(FileCalls& calls, const std::string& path, std::string_view text, std::optional<mode_t> mode)
+bool WriteNewFile(FileCalls& calls, const std::string& path, TextParts parts, std::optional<mode_t> mode)
 {
     constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     OpenFile file(calls, path.c_str(), kFlags, mode.value_or(kNewFileMode));
-    return file && WriteAll(calls, file.Descriptor(), text) && (!mode || calls.Fchmod(file.Descriptor(), *mode) == 0) &&
+    const auto isWritten = [&](std::string_view part) { return WriteAll(calls, file.Descriptor(), part); };
+    return file && std::ranges::all_of(parts, isWritten) && (!mode || calls.Fchmod(file.Descriptor(), *mode) == 0) &&
            Sync(calls, file.Descriptor()) && file.Close();
 }
 
@@ -75,6 +77,11 @@ std::filesystem::path TemporaryFile(const std::filesystem::path& target)
 }
 
 bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text)
+{
+    return ReplaceFile(calls, file, TextParts(&text, 1));
+}
+
+bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, TextParts parts)
 {
     const std::optional<std::filesystem::path> target = FollowLinks(calls, file);
     if (!target) {
@@ -95,7 +102,7 @@ bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::strin
     if (!folder || !RemoveIfThere(calls, temporary)) {
         return false;
     }
-    if (!WriteNewFile(calls, temporary, text, mode) || calls.Rename(temporary.c_str(), target->c_str()) != 0) {
+    if (!WriteNewFile(calls, temporary, parts, mode) || calls.Rename(temporary.c_str(), target->c_str()) != 0) {
         RemoveIfThere(calls, temporary);
         return false;
     }

@@ -3,9 +3,13 @@
 #include "store/file_calls.h"
 
 #include <filesystem>
+#include <span>
 #include <string_view>
 
 namespace quillon::store {
+
+/// Parts of a text, to be put one behind the other.
+using TextParts = std::span<const std::string_view>;
 
 /// Puts a text in the place of a file's, as a whole or not at all: the text goes to a temporary file beside the target
 /// and takes its place only when it has reached the disk. Links are followed: the file behind them is replaced. The
@@ -13,6 +17,9 @@ namespace quillon::store {
 /// @return false on any failure. The old file then stands and the temporary one is gone. One exception: when the new
 ///         file stands, complete, but the system reports that the folder could not be brought to the disk.
 [[nodiscard]] bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, std::string_view text);
+
+/// The same with a text in parts.
+[[nodiscard]] bool ReplaceFile(FileCalls& calls, const std::filesystem::path& file, TextParts parts);
 
 /// Where ReplaceFile puts a file's new text first. @param target  a path without links
 [[nodiscard]] std::filesystem::path TemporaryFile(const std::filesystem::path& target);

@@ -1,12 +1,10 @@
 #include "store/section_index.h"
 
-#include "store/profile_lines.h"
-
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <iterator>
 #include <limits>
-#include <numeric>
 
 namespace quillon::store {
 namespace {
@@ -18,83 +16,99 @@ constexpr std::size_t kFewSections = 32;
 constexpr std::size_t kBytesPerName = 64;
 constexpr std::uint32_t kFree = std::numeric_limits<std::uint32_t>::max();
 
-/// Begin of the line of which the character at an offset is the first but for blanks; nothing when it is not.
-std::optional<std::size_t> LineStartedBy(std::string_view text, std::size_t offset) noexcept
-{
-    const std::size_t before = text.substr(0, offset).find_last_not_of(" \t");
-    if (before == std::string_view::npos) {
-        return 0;
-    }
-    return text[before] == '\n' || text[before] == '\r' ? std::optional(before + 1) : std::nullopt;
-}
-
+/// Eight bytes at a time, of which the bit is set that makes small letters of capitals.
 std::size_t Hash(std::string_view name) noexcept
 {
-    return std::accumulate(name.begin(), name.end(), std::uint64_t{14695981039346656037U},
-                           [](std::uint64_t hash, char character) {
-                               return (hash ^ static_cast<unsigned char>(FoldCase(character))) * 1099511628211U;
-                           });
+    constexpr std::uint64_t kSmall = 0x2020202020202020U;
+    constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15U;
+    std::uint64_t hash = name.size();
+    while (!name.empty()) {
+        std::array<char, sizeof(std::uint64_t)> part{};
+        name.remove_prefix(name.copy(part.data(), part.size()));
+        hash = (hash ^ (std::bit_cast<std::uint64_t>(part) | kSmall)) * kOdd;
+        hash ^= hash >> 32U;
+    }
+    return hash;
 }
 
 } // namespace
 
-SectionIndex::SectionIndex(std::string_view text)
+bool SectionIndex::Has(std::string_view text, std::size_t place)
 {
-    // Brackets are rare: looking for them passes over the other lines without looking at each.
-    std::size_t bracket = text.find('[');
-    while (bracket != std::string_view::npos) {
-        const std::optional<std::size_t> begin = LineStartedBy(text, bracket);
-        std::size_t next = bracket + 1;
-        if (begin) {
-            next = LineAt(text, bracket).end;
-            if (text.substr(bracket, next - bracket).find(']') != std::string_view::npos) {
-                m_headers.push_back(static_cast<std::uint32_t>(*begin));
-            }
-        }
-        bracket = text.find('[', next);
+    while (place >= m_headers.size() && FindNextHeader(text)) {
     }
+    return place < m_headers.size();
+}
+
+std::optional<HeaderLine> SectionIndex::FindNextHeader(std::string_view text)
+{
+    const std::optional<HeaderLine> header = FindHeader(text, m_searched);
+    m_searched = header ? header->end : text.size();
+    if (header) {
+        m_headers.push_back(static_cast<std::uint32_t>(header->begin));
+    }
+    return header;
 }
 
 std::string_view SectionIndex::Name(std::string_view text, std::size_t place) const noexcept
 {
-    const LineSpan line = LineAt(text, m_headers[place]);
-    return ParseLine(text.substr(line.begin, line.end - line.begin)).name;
+    return FindHeader(text, m_headers[place])->name;
 }
 
 std::optional<SectionSpan> SectionIndex::Find(std::string_view text, std::string_view name)
 {
     if (name.empty()) {
-        return SectionSpan{0, 0, m_headers.empty() ? text.size() : m_headers.front()};
+        return SectionSpan{0, 0, Has(text, 0) ? m_headers.front() : text.size()};
     }
-    if (m_headers.size() > kFewSections && m_table.empty()) {
-        BuildTable(text);
+    if (m_last < m_headers.size() && EqualNames(Name(text, m_last), name)) {
+        return Span(text, m_last);
     }
     const std::optional<std::size_t> place = FindPlace(text, name);
-    return place ? std::optional(Span(text, *place)) : std::nullopt;
+    if (!place) {
+        return std::nullopt;
+    }
+    m_last = *place;
+    return Span(text, *place);
 }
 
-SectionSpan SectionIndex::Span(std::string_view text, std::size_t place) const noexcept
+SectionSpan SectionIndex::Span(std::string_view text, std::size_t place)
 {
-    const std::size_t end = place + 1 < m_headers.size() ? m_headers[place + 1] : text.size();
+    const std::size_t end = Has(text, place + 1) ? m_headers[place + 1] : text.size();
     return {m_headers[place], LineAt(text, m_headers[place]).next, end};
 }
 
-std::optional<std::size_t> SectionIndex::FindPlace(std::string_view text, std::string_view name) const
+std::optional<std::size_t> SectionIndex::FindPlace(std::string_view text, std::string_view name)
 {
-    if (!m_table.empty()) {
-        const std::uint32_t place = m_table[Slot(text, name)];
-        return place == kFree ? std::nullopt : std::optional<std::size_t>(place);
+    // For one section a walk is quicker than making a table of all; whoever asks for a second one may ask for many.
+    if (m_hasWalked && m_table.empty() && Has(text, kFewSections)) {
+        BuildTable(text);
     }
+    if (m_table.empty()) {
+        m_hasWalked = true;
+        return FindByWalk(text, name);
+    }
+    const std::uint32_t place = m_table[Slot(text, name)];
+    return place == kFree ? std::nullopt : std::optional<std::size_t>(place);
+}
+
+std::optional<std::size_t> SectionIndex::FindByWalk(std::string_view text, std::string_view name)
+{
     for (std::size_t place = 0; place < m_headers.size(); ++place) {
         if (EqualNames(Name(text, place), name)) {
             return place;
         }
     }
-    return std::nullopt;
+    std::optional<HeaderLine> header = FindNextHeader(text);
+    while (header && !EqualNames(header->name, name)) {
+        header = FindNextHeader(text);
+    }
+    return header ? std::optional(m_headers.size() - 1) : std::nullopt;
 }
 
 void SectionIndex::BuildTable(std::string_view text)
 {
+    while (FindNextHeader(text)) {
+    }
     const std::size_t names = std::min(m_headers.size(), text.size() / kBytesPerName + 1);
     m_table.assign(std::bit_ceil(2 * names), kFree);
     std::size_t used = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/profile_lines.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -16,17 +18,15 @@ struct SectionSpan
     std::size_t end;    ///< begin of the next header line, or the text's size
 };
 
-/// Finds the sections of a text of up to 4 GiB. Four bytes per section; names are looked up in the text itself, which
-/// is handed in again by its owner, unchanged, at every call.
+/// Finds the sections of a text of up to 4 GiB, and looks no further into it than it has to. Four bytes per section;
+/// names are looked up in the text itself, which is handed in again by its owner, unchanged, at every call.
 class SectionIndex
 {
 public:
-    explicit SectionIndex(std::string_view text);
+    /// Whether there is a section at a place. @param place  from 0, in file order
+    [[nodiscard]] bool Has(std::string_view text, std::size_t place);
 
-    /// Number of header lines.
-    [[nodiscard]] std::size_t Count() const noexcept { return m_headers.size(); }
-
-    /// Name of a section. @param place  0 to Count() - 1, in file order
+    /// Name of a section. @param place  one that Has was true for
     [[nodiscard]] std::string_view Name(std::string_view text, std::size_t place) const noexcept;
 
     /// The first section of a name, letter case aside. The empty name stands for the lines before the first header,
@@ -34,14 +34,19 @@ public:
     [[nodiscard]] std::optional<SectionSpan> Find(std::string_view text, std::string_view name);
 
 private:
-    [[nodiscard]] SectionSpan Span(std::string_view text, std::size_t place) const noexcept;
-    [[nodiscard]] std::optional<std::size_t> FindPlace(std::string_view text, std::string_view name) const;
+    std::optional<HeaderLine> FindNextHeader(std::string_view text);
+    [[nodiscard]] SectionSpan Span(std::string_view text, std::size_t place);
+    [[nodiscard]] std::optional<std::size_t> FindPlace(std::string_view text, std::string_view name);
+    [[nodiscard]] std::optional<std::size_t> FindByWalk(std::string_view text, std::string_view name);
     void BuildTable(std::string_view text);
     void GrowTable(std::string_view text);
     [[nodiscard]] std::size_t Slot(std::string_view text, std::string_view name) const noexcept;
 
-    std::vector<std::uint32_t> m_headers; ///< offsets of the header lines
+    std::vector<std::uint32_t> m_headers; ///< offsets of the header lines that stand before m_searched
     std::vector<std::uint32_t> m_table;   ///< hash table of the first places of each name; only for many sections
+    std::size_t m_searched = 0;
+    std::size_t m_last = 0; ///< place found last: most often it is asked for again
+    bool m_hasWalked = false;
 };
 
 } // namespace quillon::store

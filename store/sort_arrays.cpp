@@ -6,7 +6,9 @@ namespace quillon::store {
 
 void SortArrays(std::vector<std::string>& texts)
 {
-    std::sort(texts.begin(), texts.end());
+    if (!std::is_sorted(texts.begin(), texts.end())) { // most lists come sorted all but a few
+        std::sort(texts.begin(), texts.end());
+    }
 }
 
 } // namespace quillon::store

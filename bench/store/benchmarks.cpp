@@ -13,6 +13,13 @@ std::string Samples::File(const SampleSize& size) const
     return file.string();
 }
 
+std::string Samples::Copy(const SampleSize& size, std::string_view name) const
+{
+    const std::filesystem::path file = folder / std::string(name).append(size.name).append(".DAT");
+    WriteFile(file, SampleText(size.models));
+    return file.string();
+}
+
 void RegisterSizes(std::string_view work, std::string_view who, Benchmark run, const Samples& samples)
 {
     for (const SampleSize& size : kSampleSizes) {

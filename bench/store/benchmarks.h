@@ -16,6 +16,8 @@ struct Samples
     std::filesystem::path folder;
 
     [[nodiscard]] std::string File(const SampleSize& size) const;
+    /// A file of its own for a benchmark that changes it.
+    [[nodiscard]] std::string Copy(const SampleSize& size, std::string_view name) const;
 };
 
 /// Gives free memory back to the system, so that nothing that an earlier benchmark left is counted to the next one.
@@ -44,5 +46,8 @@ void RegisterPeers(std::string_view work, PeerBenchmark run, const Samples& samp
 void RegisterSectionLists(const Samples& samples);
 void RegisterModels(const Samples& samples);
 void RegisterLookups(const Samples& samples);
+void RegisterChanges(const Samples& samples);
+void RegisterFolders(const Samples& samples);
+void RegisterMemory(const Samples& samples);
 
 } // namespace quillon::bench

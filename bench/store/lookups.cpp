@@ -11,14 +11,18 @@ namespace {
 
 using Places = std::vector<std::pair<std::string, std::string>>;
 
+/// What is looked up, another thing each time as far as the file has so many: what was looked up just before would
+/// still be in the processor's cache.
+constexpr std::size_t kRounds = 50;
+constexpr std::size_t kLookUps = 1'000;
+
 Places PickPlaces(std::size_t models)
 {
-    constexpr std::size_t kCount = 1'000;
     std::minstd_rand numbers;
     std::uniform_int_distribution<std::size_t> key(0, kValuesOfModel - 1);
     ModelPicker picker(models);
     Places places;
-    while (places.size() < kCount) {
+    while (places.size() < kRounds * kLookUps) {
         places.emplace_back(picker.Next(), ModelKeys().at(key(numbers)));
     }
     return places;
@@ -29,8 +33,11 @@ template <class Look>
 void LookUpAll(benchmark::State& state, std::size_t models, const Look& look)
 {
     const Places places = PickPlaces(models);
+    std::size_t next = 0;
     Repeat(state, [&] {
-        for (const auto& [section, key] : places) {
+        for (std::size_t count = 0; count < kLookUps; ++count) {
+            const auto& [section, key] = places[next];
+            next = (next + 1) % places.size();
             const std::size_t length = look(section, key);
             if (length < 2 || length > 3) {
                 state.SkipWithError("wrong length of a value");

@@ -51,6 +51,9 @@ int Run(int argc, char** argv)
     RegisterSectionLists(samples);
     RegisterModels(samples);
     RegisterLookups(samples);
+    RegisterChanges(samples);
+    RegisterFolders(samples);
+    RegisterMemory(samples);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return EXIT_SUCCESS;

@@ -25,4 +25,23 @@ FileBytes ReadPlainly(const char* file)
     return bytes;
 }
 
+void ReplacePlainly(const std::string& file, std::string_view text, PlainSync sync)
+{
+    const std::string temporary = file + ".new";
+    const int descriptor = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    bool isDone = descriptor >= 0 && ::write(descriptor, text.data(), text.size()) == static_cast<ssize_t>(text.size());
+    isDone = isDone && (sync == PlainSync::No || ::fsync(descriptor) == 0);
+    ::close(descriptor);
+    isDone = isDone && ::rename(temporary.c_str(), file.c_str()) == 0;
+    if (sync == PlainSync::Yes) {
+        const std::string folder = file.substr(0, file.rfind('/'));
+        const int folderDescriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        isDone = isDone && ::fsync(folderDescriptor) == 0;
+        ::close(folderDescriptor);
+    }
+    if (!isDone) {
+        throw std::system_error(errno, std::generic_category(), file);
+    }
+}
+
 } // namespace quillon::bench

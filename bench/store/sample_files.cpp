@@ -33,6 +33,11 @@ const std::array<std::string, kValuesOfModel>& ModelKeys()
     return keys;
 }
 
+std::string GainText(std::size_t model, std::size_t key)
+{
+    return std::to_string(22 + (model + key) % 170);
+}
+
 std::string SampleText(std::size_t models)
 {
     std::string text;
@@ -40,10 +45,7 @@ std::string SampleText(std::size_t models)
         text.append("[").append(ModelName(place)).append("]\r\n").append(kRemark).append("\r\n");
         text.append(ModelKeys().front()).append(place % 2 == 0 ? "=dBi\r\n" : "=dBd\r\n");
         for (std::size_t key = 1; key < kValuesOfModel; ++key) {
-            text.append(ModelKeys().at(key))
-                .append("=")
-                .append(std::to_string(22 + (place + key) % 170))
-                .append("\r\n");
+            text.append(ModelKeys().at(key)).append("=").append(GainText(place, key)).append("\r\n");
         }
         text.append("\r\n");
     }

@@ -30,6 +30,9 @@ inline constexpr std::size_t kValuesOfModel = 15;
 /// @return names of a model's keys that hold a value which the program asks for: the unit, then the gains.
 [[nodiscard]] const std::array<std::string, kValuesOfModel>& ModelKeys();
 
+/// Gain of a model at the place of one of its keys, as it stands in the file.
+[[nodiscard]] std::string GainText(std::size_t model, std::size_t key);
+
 void WriteFile(const std::filesystem::path& file, std::string_view text);
 
 /// Models of a file in an order that is the same at each run and that no reader can foresee.

@@ -55,9 +55,9 @@ TEST(DamagedFiles, GiveBackWhatIsWrittenIntoThem)
             const std::string section = RandomName(random);
             const std::string key = RandomName(random);
             const std::string value = OneLine(RandomBytes(random, 10));
-            profile.SetValue(section, key, value);
+            profile.Make(profile.ValueChange(section, key, value));
             ASSERT_EQ(Read(profile, section, key), WithoutBlanks(value)) << seed;
-            ASSERT_FALSE(profile.SetValue(section, key, value)) << seed;
+            ASSERT_FALSE(profile.Make(profile.ValueChange(section, key, value))) << seed;
             const std::string written(profile.Bytes());
             ASSERT_EQ(Read(PrivateProfile(written), section, key), WithoutBlanks(value)) << seed;
         }
@@ -72,7 +72,7 @@ TEST(DamagedFiles, KeepEveryOtherByteWhenOneLineChanges)
         const std::string before(profile.Bytes());
         const std::string section = RandomName(random);
         const std::string key = RandomName(random);
-        profile.SetValue(section, key, "v");
+        profile.Make(profile.ValueChange(section, key, "v"));
         const std::string_view after = profile.Bytes();
         const auto differing = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
         const auto same = static_cast<std::size_t>(differing.first - before.begin());
@@ -159,9 +159,9 @@ TEST_P(HugeText, IsReadListedAndWrittenInOnePass)
     (void)profile.SectionNames(2048);
     (void)profile.KeyNames("a", 2048);
     (void)profile.Value("a", "missing");
-    EXPECT_TRUE(profile.SetValue("the last", "k", "v"));
+    EXPECT_TRUE(profile.Make(profile.ValueChange("the last", "k", "v")));
     EXPECT_EQ(profile.Value("the last", "k"), "v");
-    EXPECT_TRUE(profile.RemoveSection("the last"));
+    EXPECT_TRUE(profile.Make(profile.SectionRemoval("the last")));
 }
 
 // clang-format off

@@ -19,13 +19,13 @@ class ReadFileTest : public ::testing::Test
 protected:
     FileState Read(const char* name)
     {
-        m_bytes = "of an earlier file";
+        m_bytes = Bytes(18); // of an earlier file
         return ReadFile(m_calls, (m_folder / name).c_str(), m_bytes).state;
     }
 
     support::TempFolder m_folder;
     FailingCalls m_calls;
-    std::string m_bytes;
+    Bytes m_bytes;
 };
 
 TEST_F(ReadFileTest, ReadsEveryByte)
@@ -33,14 +33,14 @@ TEST_F(ReadFileTest, ReadsEveryByte)
     const std::string all("a\0\r\n\xFF", 5);
     m_folder.Put("f", all);
     EXPECT_EQ(Read("f"), FileState::Regular);
-    EXPECT_EQ(m_bytes, all);
+    EXPECT_EQ(m_bytes.View(), all);
 }
 
 TEST_F(ReadFileTest, ReadsAnEmptyFile)
 {
     m_folder.Put("f", "");
     EXPECT_EQ(Read("f"), FileState::Regular);
-    EXPECT_EQ(m_bytes, "");
+    EXPECT_EQ(m_bytes.View(), "");
 }
 
 TEST_F(ReadFileTest, ReadsThroughALink)
@@ -48,7 +48,7 @@ TEST_F(ReadFileTest, ReadsThroughALink)
     m_folder.Put("f", "text");
     fs::create_symlink("f", m_folder / "g");
     EXPECT_EQ(Read("g"), FileState::Regular);
-    EXPECT_EQ(m_bytes, "text");
+    EXPECT_EQ(m_bytes.View(), "text");
 }
 
 TEST_F(ReadFileTest, CallsMissingWhatIsNotThere)
@@ -57,7 +57,7 @@ TEST_F(ReadFileTest, CallsMissingWhatIsNotThere)
     fs::create_symlink("nowhere", m_folder / "g");
     for (const char* name : {"missing", "missing/f", "f/below", "g"}) {
         EXPECT_EQ(Read(name), FileState::Missing) << name;
-        EXPECT_EQ(m_bytes, "");
+        EXPECT_EQ(m_bytes.View(), "");
     }
 }
 
@@ -65,7 +65,7 @@ TEST_F(ReadFileTest, RefusesAFolder)
 {
     fs::create_directory(m_folder / "d");
     EXPECT_EQ(Read("d"), FileState::Refused);
-    EXPECT_EQ(m_bytes, "");
+    EXPECT_EQ(m_bytes.View(), "");
 }
 
 TEST_F(ReadFileTest, RefusesAPipeWithoutWaitingForItsWriter)
@@ -92,10 +92,10 @@ TEST_F(ReadFileTest, ReadsTheLargestFileAndRefusesALargerOne)
     const fs::path file = m_folder.Put("f", "");
     ASSERT_EQ(::truncate(file.c_str(), 67108864), 0); // 64 MiB
     EXPECT_EQ(Read("f"), FileState::Regular);
-    EXPECT_EQ(m_bytes.size(), 67108864U);
+    EXPECT_EQ(m_bytes.View().size(), 67108864U);
     ASSERT_EQ(::truncate(file.c_str(), 67108865), 0);
     EXPECT_EQ(Read("f"), FileState::Refused);
-    EXPECT_EQ(m_bytes, "");
+    EXPECT_EQ(m_bytes.View(), "");
 }
 
 TEST_F(ReadFileTest, RefusesAFileWhenAnyCallFails)
@@ -104,7 +104,7 @@ TEST_F(ReadFileTest, RefusesAFileWhenAnyCallFails)
     for (const int number : {1, 2, 3, 4}) { // stat, open, fstat, read
         m_calls.FailAt(number, EIO);
         EXPECT_EQ(Read("f"), FileState::Refused) << m_calls.Made().back();
-        EXPECT_EQ(m_bytes, "");
+        EXPECT_EQ(m_bytes.View(), "");
     }
 }
 
@@ -113,7 +113,7 @@ TEST_F(ReadFileTest, GoesOnWhenReadingIsInterrupted)
     m_folder.Put("f", "text");
     m_calls.FailAt(4, EINTR);
     EXPECT_EQ(Read("f"), FileState::Regular);
-    EXPECT_EQ(m_bytes, "text");
+    EXPECT_EQ(m_bytes.View(), "text");
 }
 
 /// Another thing takes the file's place between the look and the opening.
@@ -140,7 +140,7 @@ TEST_F(ReadFileTest, RefusesAPipeThatTookTheFilesPlace)
     ASSERT_EQ(::mkfifo((m_folder / "p").c_str(), 0600), 0);
     SwappingCalls calls(m_folder / "p");
     EXPECT_EQ(ReadFile(calls, (m_folder / "f").c_str(), m_bytes).state, FileState::Refused);
-    EXPECT_EQ(m_bytes, "");
+    EXPECT_EQ(m_bytes.View(), "");
 }
 
 /// The file shrinks while it is read.
@@ -161,7 +161,7 @@ TEST_F(ReadFileTest, RefusesAFileThatShrinksMeanwhile)
     m_folder.Put("f", "text");
     EndingCalls calls;
     EXPECT_EQ(ReadFile(calls, (m_folder / "f").c_str(), m_bytes).state, FileState::Refused);
-    EXPECT_EQ(m_bytes, "");
+    EXPECT_EQ(m_bytes.View(), "");
 }
 
 TEST_F(ReadFileTest, StampsTellReplacedChangedAndTouchedFilesApart)

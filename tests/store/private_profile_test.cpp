@@ -153,9 +153,9 @@ INSTANTIATE_TEST_SUITE_P(Removal, EditRowTest, ::testing::Values(
 TEST(PrivateProfile, SeesItsOwnChanges)
 {
     PrivateProfile profile("[s]\na=1\n");
-    EXPECT_TRUE(profile.SetValue("t", "k", "v"));
+    EXPECT_TRUE(profile.Make(profile.ValueChange("t", "k", "v")));
     EXPECT_EQ(profile.SectionNames(kNoEnd), "s\0t\0"s);
-    EXPECT_TRUE(profile.RemoveSection("s"));
+    EXPECT_TRUE(profile.Make(profile.SectionRemoval("s")));
     EXPECT_EQ(profile.SectionNames(kNoEnd), "t\0"s);
     EXPECT_EQ(profile.Value("t", "k"), "v");
 }

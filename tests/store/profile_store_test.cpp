@@ -185,19 +185,88 @@ TEST_F(ProfileStoreTest, HoldsTheLastFilesOnly)
     EXPECT_GT(Count("read"), 0);
 }
 
-TEST_F(ProfileStoreTest, HoldsNoMoreThanTheLargestFilesBytes)
+TEST_F(ProfileStoreTest, HoldsALongFileOnlyWhileNoOtherOneIsAskedFor)
 {
-    for (const char* name : {"a", "b"}) {
-        m_folder.Put(name, "[s]\nk=1\n");
-        ASSERT_EQ(::truncate((m_folder / name).c_str(), 40'000'000), 0);
-        Settle(m_folder / name);
-        EXPECT_EQ(Value(m_folder / name), "1");
+    for (const char* name : {"long", "short"}) {
+        Settle(m_folder.Put(name, "[s]\nk=1\n"));
     }
+    ASSERT_EQ(::truncate((m_folder / "long").c_str(), 5'000'000), 0);
+    Settle(m_folder / "long");
+    EXPECT_EQ(Value(m_folder / "long"), "1");
     m_calls.FailAt(0, 0);
-    EXPECT_EQ(Value(m_folder / "b"), "1");
+    EXPECT_EQ(Value(m_folder / "long"), "1");
     EXPECT_EQ(Count("read"), 0);
-    EXPECT_EQ(Value(m_folder / "a"), "1");
+    EXPECT_EQ(Value(m_folder / "short"), "1");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_folder / "short"), "1");
+    EXPECT_EQ(Count("read"), 0);
+    EXPECT_EQ(Value(m_folder / "long"), "1");
     EXPECT_GT(Count("read"), 0);
+}
+
+/// Sections with lines of all line ends and some that look like headers, until the text is so long.
+std::string SectionsOf(std::size_t size)
+{
+    std::string text;
+    for (int number = 0; text.size() < size; ++number) {
+        const std::string name = std::to_string(number * number);
+        text.append("[").append(name).append("] ]\r\nk=[no]\n [open\r;[no]\n\n").append(number % 40, '=').append("\n");
+    }
+    return text;
+}
+
+TEST_F(ProfileStoreTest, ListsTheSectionsOfALongFileAsIfItWereReadWhole)
+{
+    const std::string text = SectionsOf(10'000);
+    m_folder.Put("f.dat", text);
+    const PrivateProfile whole(text);
+    for (std::size_t enough = 0; enough < 600; ++enough) {
+        ASSERT_EQ(ProfileStore().SectionNames(m_file, enough), whole.SectionNames(enough)) << enough;
+    }
+}
+
+TEST_F(ProfileStoreTest, ReadsOfALongFileOnlyWhatTheListOfItsSectionsTakes)
+{
+    Settle(m_folder.Put("f.dat", SectionsOf(100'000)));
+    m_calls.FailAt(0, 0);
+    const std::string names = m_store.SectionNames(m_file, 100);
+    EXPECT_GE(names.size(), 100U);
+    EXPECT_EQ(m_calls.Made(), (Names{"stat", "open", "fstat", "read", "close"}));
+    EXPECT_EQ(m_store.Read(m_file).Value("0]", "k"), "[no]"); // which is read now
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(m_store.SectionNames(m_file, 100), names);
+    EXPECT_EQ(m_calls.Made(), Names{"stat"});
+}
+
+TEST_F(ProfileStoreTest, ListsTheSectionsAlsoOfAFileWhoseBeginningHasTooFew)
+{
+    m_folder.Put("f.dat", std::string(50'000, '=') + "\n[a]\n[b]\n");
+    EXPECT_EQ(m_store.SectionNames(m_file, 100), std::string("a\0b\0", 4));
+    EXPECT_EQ(m_store.SectionNames(m_folder / "missing", 100), "");
+}
+
+TEST_F(ProfileStoreTest, ListsNoSectionsOfALongFileThatCannotBeRead)
+{
+    const std::string text = SectionsOf(10'000);
+    m_folder.Put("f.dat", text);
+    for (const int number : {2, 3, 4}) { // open, fstat, read: once more, then, as a whole
+        m_calls.FailAt(number, EIO);
+        EXPECT_EQ(m_store.SectionNames(m_file, 100), PrivateProfile(text).SectionNames(100));
+    }
+    m_calls.FailAt(1, EIO);
+    EXPECT_EQ(m_store.SectionNames(m_file, 100), "");
+}
+
+TEST_F(ProfileStoreTest, ListsTheSectionsThatAnOpenBatchAdds)
+{
+    const std::string text = SectionsOf(10'000);
+    m_folder.Put("f.dat", text);
+    const ProfileBatch batch(m_store, m_file);
+    ASSERT_TRUE(m_store.Edit(m_file, {"0]", std::nullopt, std::nullopt}));
+    PrivateProfile edited(text);
+    edited.Make(edited.SectionRemoval("0]"));
+    EXPECT_EQ(m_store.SectionNames(m_file, 100), edited.SectionNames(100));
+    EXPECT_NE(m_store.SectionNames(m_file, 100), PrivateProfile(text).SectionNames(100));
 }
 
 TEST_F(ProfileStoreTest, ReadsAndWritesTheFileOfAnotherSpelling)
@@ -247,13 +316,23 @@ TEST_F(ProfileStoreTest, ReadsWhatIsNoRegularFileAsEmptyAndNeverWritesIt)
 TEST_F(ProfileStoreTest, NeverWritesAFileThatItCannotRead)
 {
     m_folder.Put("f.dat", "[s]\nl=precious\n");
-    for (const int number : {2, 3, 4, 5}) { // second stat, open, fstat, read
+    for (const int number : {1, 2, 3, 4}) { // stat, open, fstat, read
         m_calls.FailAt(number, EIO);
         EXPECT_FALSE(Write(m_file, "1")) << number;
         m_calls.FailAt(number, EACCES);
         EXPECT_EQ(Value(m_file), "none") << number;
     }
     EXPECT_EQ(m_folder.Get("f.dat"), "[s]\nl=precious\n");
+}
+
+TEST_F(ProfileStoreTest, TakesAFileThatItFoundMissingForUnreadableOnceItIs)
+{
+    EXPECT_TRUE(m_store.Edit(m_file, {"s", "k", std::nullopt}));
+    ProfileBatch batch(m_store, m_folder / "g.dat");
+    ASSERT_TRUE(m_store.Edit(m_folder / "g.dat", {"s", "k", "1"}));
+    m_calls.FailAt(1, EIO);
+    EXPECT_EQ(Value(m_file), "none");
+    EXPECT_FALSE(batch.Commit());
 }
 
 TEST_F(ProfileStoreTest, RefusesAnEditThatMakesAFileTooLargeToReadBack)

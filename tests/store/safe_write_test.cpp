@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -223,6 +224,13 @@ TEST_F(ReplaceFileTest, LeavesAloneWhatIsNoRegularFile)
     EXPECT_FALSE(ReplaceFile(m_calls, m_folder / "link", "new"));
     EXPECT_TRUE(fs::is_fifo(m_folder / "pipe"));
     EXPECT_EQ(m_folder.Names(), (Names{"f.dat", "link", "pipe"}));
+}
+
+TEST_F(ReplaceFileTest, PutsPartsOneBehindTheOther)
+{
+    const std::array<std::string_view, 4> parts{"a", "", "bc", "d"};
+    EXPECT_TRUE(ReplaceFile(m_calls, m_file, parts));
+    EXPECT_EQ(m_folder.Get("f.dat"), "abcd");
 }
 
 TEST_F(ReplaceFileTest, RemovesAStaleTemporaryFile)

@@ -10,9 +10,9 @@ namespace {
 
 std::vector<std::string> Names(std::string_view text)
 {
-    const SectionIndex index(text);
+    SectionIndex index;
     std::vector<std::string> names;
-    for (std::size_t place = 0; place < index.Count(); ++place) {
+    for (std::size_t place = 0; index.Has(text, place); ++place) {
         names.emplace_back(index.Name(text, place));
     }
     return names;
@@ -20,7 +20,7 @@ std::vector<std::string> Names(std::string_view text)
 
 std::string Body(std::string_view text, std::string_view name)
 {
-    const std::optional<SectionSpan> span = SectionIndex(text).Find(text, name);
+    const std::optional<SectionSpan> span = SectionIndex().Find(text, name);
     return span ? std::string(text.substr(span->body, span->end - span->body)) : "none";
 }
 
@@ -72,7 +72,7 @@ TEST_P(SectionIndexSize, FindsEverySectionByNameInAnyCase)
         text.append("[").append(name).append("]\n").append(std::to_string(number)).append("\n");
         text.append("[").append(name).append("]\nsecond\n");
     }
-    SectionIndex index(text);
+    SectionIndex index;
     for (int number = 0; number < GetParam(); ++number) {
         const auto span = index.Find(text, "sEC" + std::to_string(number));
         ASSERT_TRUE(span) << number;

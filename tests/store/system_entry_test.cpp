@@ -36,7 +36,7 @@ std::string FileOf(const SystemPair& pair)
 {
     PrivateProfile file;
     for (const auto& [key, value] : PairEntries(pair)) {
-        file.SetValue("home", key, value);
+        file.Make(file.ValueChange("home", key, value));
     }
     return std::string(file.Bytes());
 }

@@ -18,9 +18,9 @@ std::optional<std::string> ReadBytes(const std::filesystem::path& file)
     if (found.state != store::FileState::Regular || static_cast<std::size_t>(found.stamp.size) > kLargestHelp) {
         return std::nullopt;
     }
-    std::string bytes;
+    store::Bytes bytes;
     const bool isRead = store::ReadFile(calls, file.c_str(), bytes).state == store::FileState::Regular;
-    return isRead && bytes.size() <= kLargestHelp ? std::optional(bytes) : std::nullopt;
+    return isRead && bytes.View().size() <= kLargestHelp ? std::optional(std::string(bytes.View())) : std::nullopt;
 }
 
 /// Counts every opening tag as one that stays open until a closing one comes; those that need none are few in number.
