@@ -201,7 +201,7 @@ void CheckComputing(engine::AntennaSystems& systems)
 /// What the check before loading lets through is computed without an overflow.
 void CheckComputable(engine::AntennaSystems& systems)
 {
-    engine::SystemData& data = systems.Data[SystemId::One];
+    const engine::SystemData& data = systems.Data[SystemId::One];
     if (engine::CanCompute(data)) {
         Display display;
         systems.Results[SystemId::One] = {};

@@ -3,14 +3,15 @@
 set -uo pipefail
 cd "$(dirname "$0")/.."
 
-# The command lines of the tests' build, but for the precompiled headers, which are another compiler's.
-cmake --preset dev >/dev/null || exit
-mkdir -p build/lint
-sed 's/ -Winvalid-pch -include [^ ]*//' build/dev/compile_commands.json >build/lint/compile_commands.json
+# Paths followed per function: beyond these the analyzer takes three times as long, and has found nothing here.
+depth=(-Xclang -analyzer-config -Xclang max-nodes=60000)
+
+cmake --preset lint >/dev/null || exit
+ninja -C build/lint $(ninja -C build/lint -t targets all | sed -n 's/\.pch: .*/.pch/p') >/dev/null || exit
 
 if [[ $# -gt 0 ]]; then
     printf '%s\0' "$@"
 else
-    find app engine store ui tests -name '*.cpp' -print0
-fi | xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p build/lint 2>&1 |
-    grep --line-buffered -v ' warnings generated\.$' || [[ ${PIPESTATUS[1]} -eq 0 ]]
+    find app engine fuzz store ui tests -name '*.cpp' -print0
+fi | xargs -0 -n 1 -P "$(nproc)" clang-tidy-22 --quiet -p build/lint "${depth[@]/#/--extra-arg=}" 2>&1 |
+    grep --line-buffered -v -e ' warnings\? generated\.$' -e '^\[1/1\] ' || [[ ${PIPESTATUS[1]} -eq 0 ]]

@@ -184,7 +184,8 @@ const PrivateProfile& ProfileStore::Hold(Document document)
     std::size_t bytes = 0;
     const auto isTooMuch = [&documents, &bytes](const Document& held) {
         bytes += held.profile.Bytes().size();
-        return ++documents > kMostDocuments || (documents > 1 && bytes > kMostBytes);
+        ++documents;
+        return documents > kMostDocuments || (documents > 1 && bytes > kMostBytes);
     };
     m_held.erase(std::find_if(m_held.begin(), m_held.end(), isTooMuch), m_held.end());
     return m_held.front().profile;

@@ -126,14 +126,14 @@ void Gestures::PressEnding()
 
 void Gestures::PressCommand()
 {
-    const char16_t letter = static_cast<char16_t>(u'A' + Below(26));
+    const auto letter = static_cast<char16_t>(u'A' + Below(26));
     AddKey(static_cast<Qt::Key>(letter), QString(QChar(static_cast<char16_t>(letter - u'@'))),
            Happens(6) ? Qt::ControlModifier | Qt::ShiftModifier : Qt::ControlModifier);
 }
 
 void Gestures::PressAlt()
 {
-    const char16_t letter = static_cast<char16_t>(u'A' + Below(26));
+    const auto letter = static_cast<char16_t>(u'A' + Below(26));
     AddKey(static_cast<Qt::Key>(letter), QString(QChar(letter)).toLower(), Qt::AltModifier);
 }
 

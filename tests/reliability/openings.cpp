@@ -95,7 +95,7 @@ void Give(ui::Quillon& window, ui::Command command)
 void ShowHelp(ui::Quillon& window)
 {
     emit window.CommandGiven(ui::Command::HelpContents);
-    QWidget* help = window.findChild<QWidget*>(QStringLiteral("HelpWindow"));
+    auto* help = window.findChild<QWidget*>(QStringLiteral("HelpWindow"));
     help->repaint();
     help->close();
 }

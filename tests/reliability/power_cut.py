@@ -193,13 +193,16 @@ def run_disk(tools, work, seed, number, count, figures):
                          stdout=subprocess.PIPE) as loop:
                 saves = Saves(loop)
                 for cut in range(count):
-                    picture = work / "cut.img"
+                    # Another name each time: the loop device of the picture before may still be going, and what is known by
+                    # a name that it holds would be read through its cache.
+                    picture = work / f"cut{cut}.img"
                     reported, at_risk = cut_once(disk, saves, loop, picture, chance)
                     figures.cuts += 1
                     figures.at_risk += at_risk > 0
                     for finding in check_image(tools, picture, again, saves, reported):
                         figures.findings.append(finding)
                         print(f"seed {seed}, disk {number}, cut {cut}: {finding}", flush=True)
+                    picture.unlink()
                 figures.saves += saves.count
 
 

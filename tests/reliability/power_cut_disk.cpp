@@ -84,7 +84,7 @@ public:
 
     std::size_t Read(std::span<char> buffer, std::size_t offset)
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         const std::span<const char> rest = std::span(m_seen).subspan(std::min(offset, m_seen.size()));
         const std::span<const char> wanted = rest.first(std::min(rest.size(), buffer.size()));
         std::copy(wanted.begin(), wanted.end(), buffer.begin());
@@ -93,7 +93,7 @@ public:
 
     bool Write(std::span<const char> bytes, std::size_t offset)
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         if (offset > m_seen.size() || bytes.size() > m_seen.size() - offset) {
             return false;
         }
@@ -104,7 +104,7 @@ public:
 
     void Flush()
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         for (const CachedWrite& write : m_cached) {
             Put(m_flushed, write.offset, write.bytes);
         }
@@ -114,7 +114,7 @@ public:
     Picture Cut(std::uint64_t seed)
     {
         std::mt19937_64 random(seed);
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         const auto kind = random() % 4;
         if (kind == 0) {
             return {m_seen, m_cached.size()};

@@ -55,7 +55,7 @@ std::optional<Paper> DescribedPaper(ipp_t& description)
 std::optional<Paper> NamedPaper(ipp_t& description)
 {
     ipp_attribute_t* name = ippFindAttribute(&description, "media-default", IPP_TAG_ZERO);
-    pwg_media_t* media = name == nullptr ? nullptr : pwgMediaForPWG(ippGetString(name, 0, nullptr));
+    const pwg_media_t* media = name == nullptr ? nullptr : pwgMediaForPWG(ippGetString(name, 0, nullptr));
     if (media == nullptr) {
         return std::nullopt;
     }

@@ -33,7 +33,7 @@ QString SectionText(std::string_view bytes)
 QString MakerText(std::string_view bytes)
 {
     QStringDecoder decoder(QStringDecoder::Utf8);
-    QString text = decoder.decode(Bytes(bytes));
+    const QString text = decoder.decode(Bytes(bytes));
     return decoder.hasError() ? SectionText(bytes) : text;
 }
 

@@ -55,16 +55,16 @@ void NumberBox::SetInk(const QColor& color, const QString& warning)
     Say();
     if (m_ink != color) {
         m_ink = color;
-        ApplyInk();
+        ApplyInk(color);
     }
 }
 
-void NumberBox::ApplyInk()
+void NumberBox::ApplyInk(const QColor& color)
 {
     QPalette own;
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         own.setColor(group, QPalette::Base, Qt::white);
-        own.setColor(group, QPalette::Text, *m_ink);
+        own.setColor(group, QPalette::Text, color);
     }
     setPalette(own);
 }

@@ -50,7 +50,7 @@ protected:
 
 private:
     void ApplyFont();
-    void ApplyInk();
+    void ApplyInk(const QColor& color);
     void Say();
     void PaintWarning(QPainter& painter) const;
 

@@ -10,7 +10,7 @@ namespace quillon::reliability {
 
 std::string ToText(const Fault& fault)
 {
-    const std::string call = "call " + std::to_string(fault.call) + " ";
+    std::string call = "call " + std::to_string(fault.call) + " ";
     const std::string part = std::to_string(kParts.at(static_cast<std::size_t>(fault.part))) + " %";
     switch (fault.kind) {
     case Fault::Kind::Error:

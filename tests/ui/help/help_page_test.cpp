@@ -141,7 +141,7 @@ TEST_F(HelpPageTest, FindsTextFromWhereOneReads)
     EXPECT_GT(page.textCursor().position(), 40 * 5) << "not at the top of the document";
     EXPECT_TRUE(page.FindText(QStringLiteral("gamma"), {}));
     EXPECT_EQ(page.textCursor().selectedText(), QStringLiteral("gamma"));
-    EXPECT_NEAR(page.cursorRect().top(), page.viewport()->height() / 3, 2) << "with some lines around it";
+    EXPECT_NEAR(page.cursorRect().top(), page.viewport()->height() / 3.0, 2) << "with some lines around it";
 }
 
 TEST_F(HelpPageTest, FindsAroundTheEnds)
