@@ -51,16 +51,22 @@ is_in_own_folder() { [[ "$1" != */* || ! -L "$folder/${1%/*}" ]]; }
 
 is_plain() { [[ -f "$folder/$1" && -r "$folder/$1" && ! -L "$folder/$1" ]] && is_in_own_folder "$1"; }
 
-declare -A laid_out=() now=() present=() taken=()
+declare -A laid_out=() begun=() now=() present=() taken=()
 
-# A name can have several checksums: those of a run that did not come to its end, and those before it.
+# A name can have several checksums: those of a run that did not come to its end, and those before it. A plus stands before that
+# of a file that was new to such a run: it may not have come, so that its absence is nobody's wish.
 read_record() {
     local line name
     [[ -f "$record" ]] || return 0
     while IFS= read -r line; do
         name=${line#* }
         name=${name# }
-        if is_proper "$name"; then
+        if ! is_proper "$name"; then
+            continue
+        elif [[ "$line" == +* ]]; then
+            line=${line#+}
+            begun[$name]+=" ${line%% *}"
+        else
             laid_out[$name]+=" ${line%% *}"
         fi
     done <"$record"
@@ -76,7 +82,7 @@ read_shipped() {
 # What cannot be read is somebody's. A checksum that fails ends the run, or every file would pass for a changed one.
 read_present() {
     local name line lines
-    lines=$(for name in "${!now[@]}" "${!laid_out[@]}"; do
+    lines=$(for name in "${!now[@]}" "${!laid_out[@]}" "${!begun[@]}"; do
         if is_plain "$name"; then printf '%s\0' "$name"; fi
     done | checksums_in "$folder")
     while IFS= read -r line; do
@@ -92,7 +98,7 @@ read_taken() {
     done < <(find "$folder" -mindepth 1 -maxdepth 2 -printf '%P\0')
 }
 
-was_laid_out() { [[ " ${laid_out[$1]:-} " == *" $2 "* ]]; } # NAME CHECKSUM
+was_laid_out() { [[ " ${laid_out[$1]:-} ${begun[$1]:-} " == *" $2 "* ]]; } # NAME CHECKSUM
 
 # Whether the shipped file of that name comes; tells of one that a person's stands in the way of.
 is_to_come() {
@@ -167,25 +173,24 @@ bring() { # NAME
     fi
 }
 
-# A file that is brought is known as unchanged from then on, also when this run is killed before it is through. One that is
-# new here stays out until it is there: it would pass for a file that a person deleted.
+# A file that is brought is known as unchanged from then on, also when this run is killed before it is through.
 record_coming() { # NAME...
-    local name lines
+    local name mark lines
     [[ -f "$record" ]] || return 0
     lines=$(cat "$record")
     for name in "$@"; do
-        if [[ -n "${laid_out[$name]:-}" ]]; then
-            lines+=$'\n'"${now[$name]}  $name"
-        fi
+        mark=+
+        if [[ -n "${laid_out[$name]:-}" ]]; then mark=; fi
+        lines+=$'\n'"$mark${now[$name]}  $name"
     done
     write_record "$lines"
 }
 
 remove_dropped() {
     local name
-    for name in "${!laid_out[@]}"; do
+    for name in "${!laid_out[@]}" "${!begun[@]}"; do
         if [[ -z "${now[$name]:-}" && -n "${present[$name]:-}" ]] && was_laid_out "$name" "${present[$name]}"; then
-            rm "$folder/$name"
+            rm -f "$folder/$name"
         fi
     done
 }
