@@ -225,6 +225,15 @@ TEST_F(ProfileStoreTest, ListsTheSectionsOfALongFileAsIfItWereReadWhole)
     }
 }
 
+TEST_F(ProfileStoreTest, TakesNoNameFromALineThatGoesOnBehindWhatItRead)
+{
+    for (std::size_t filler = 100; filler < 250; ++filler) { // one of which ends the reading in the second header
+        const std::string text = "[1234567]\n" + std::string(filler, '=') + "\n[b]c] \n" + std::string(200, '=');
+        m_folder.Put("f.dat", text);
+        ASSERT_EQ(ProfileStore().SectionNames(m_file, 10), std::string("1234567\0b]c\0", 12)) << filler;
+    }
+}
+
 TEST_F(ProfileStoreTest, ReadsOfALongFileOnlyWhatTheListOfItsSectionsTakes)
 {
     Settle(m_folder.Put("f.dat", SectionsOf(100'000)));
