@@ -14,7 +14,7 @@ public:
     Bytes() = default;
 
     explicit Bytes(std::size_t size)
-        : m_data(std::make_unique_for_overwrite<char[]>(size))
+        : m_data(std::make_unique_for_overwrite<char[]>(size)) // NOLINT(modernize-avoid-c-arrays): see above
         , m_size(size)
     {
     }
@@ -27,7 +27,7 @@ public:
     [[nodiscard]] std::string_view View() const noexcept { return {m_data.get(), m_size}; }
 
 private:
-    std::unique_ptr<char[]> m_data;
+    std::unique_ptr<char[]> m_data; // NOLINT(modernize-avoid-c-arrays)
     std::size_t m_size = 0;
 };
 

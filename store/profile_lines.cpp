@@ -94,7 +94,7 @@ std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) no
         from = begin ? FindLineEnd(text, bracket) : bracket + 1;
         const std::string_view name = text.substr(bracket + 1, from - bracket - 1);
         const std::size_t close = begin ? name.rfind(']') : std::string_view::npos;
-        if (close != std::string_view::npos) {
+        if (begin && close != std::string_view::npos) {
             return HeaderLine{*begin, from, WithoutBlanks(name.substr(0, close))};
         }
         bracket = text.find('[', from);

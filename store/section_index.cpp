@@ -52,6 +52,7 @@ std::optional<HeaderLine> SectionIndex::FindNextHeader(std::string_view text)
 
 std::string_view SectionIndex::Name(std::string_view text, std::size_t place) const noexcept
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): it was found there before
     return FindHeader(text, m_headers[place])->name;
 }
 

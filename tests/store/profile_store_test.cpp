@@ -208,7 +208,7 @@ TEST_F(ProfileStoreTest, HoldsALongFileOnlyWhileNoOtherOneIsAskedFor)
 std::string SectionsOf(std::size_t size)
 {
     std::string text;
-    for (int number = 0; text.size() < size; ++number) {
+    for (std::size_t number = 0; text.size() < size; ++number) {
         const std::string name = std::to_string(number * number);
         text.append("[").append(name).append("] ]\r\nk=[no]\n [open\r;[no]\n\n").append(number % 40, '=').append("\n");
     }
