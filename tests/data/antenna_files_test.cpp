@@ -39,8 +39,6 @@ std::string TestName(const ::testing::TestParamInfo<std::filesystem::path>& info
     return FileTestName(info.param);
 }
 
-} // namespace
-
 class AntennaFile : public ::testing::TestWithParam<std::filesystem::path>
 {
 protected:
@@ -96,5 +94,7 @@ TEST(AntennaFiles, IsotropicHasZeroDBiOnAllBandsAsGiven)
         EXPECT_THAT(isotropic->Value("Gain" + std::string(band)), Optional(std::string("0"))) << band;
     }
 }
+
+} // namespace
 
 } // namespace quillon::data_tests

@@ -35,8 +35,6 @@ std::string TestName(const ::testing::TestParamInfo<std::filesystem::path>& info
     return FileTestName(info.param);
 }
 
-} // namespace
-
 class CoaxFile : public ::testing::TestWithParam<std::filesystem::path>
 {
 protected:
@@ -97,5 +95,7 @@ TEST_P(CoaxFile, DiameterAndImpedanceAreThoseOfACable)
         EXPECT_LE(Figure(cable, "Spec2"), 600) << GetParam() << " [" << cable.name << "] is above 600 ohms";
     }
 }
+
+} // namespace
 
 } // namespace quillon::data_tests

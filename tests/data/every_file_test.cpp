@@ -55,8 +55,6 @@ std::string TestName(const ::testing::TestParamInfo<std::filesystem::path>& info
     return info.param.parent_path().filename().string() + "_" + FileTestName(info.param);
 }
 
-} // namespace
-
 class EveryCatalogueFile : public ::testing::TestWithParam<std::filesystem::path>
 {
 protected:
@@ -121,5 +119,7 @@ TEST_P(EveryCatalogueFile, ListOfSectionsFitsTheReadersBuffer)
     }
     EXPECT_LE(characters, 2047U) << GetParam();
 }
+
+} // namespace
 
 } // namespace quillon::data_tests
