@@ -26,7 +26,7 @@ struct MonkeyEvent
 template <class Choices>
 const auto& OneOf(const Choices& choices, std::mt19937& random)
 {
-    return choices[static_cast<Choices::size_type>(random() % static_cast<unsigned>(choices.size()))];
+    return choices[static_cast<typename Choices::size_type>(random() % static_cast<unsigned>(choices.size()))];
 }
 
 /// What a widget is called in reports: its class and its name, or the name of what it stands in.
