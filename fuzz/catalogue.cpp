@@ -13,7 +13,9 @@
 #include <array>
 #include <bit>
 #include <cerrno>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -70,6 +72,8 @@ void CheckModel(const store::Catalogue& catalogue, const std::string& maker, con
     Expect(catalogue.LoadAntennaGainType(maker, model) ==
                ProfileModel::StripBlanks(file.Answer(model, "GainType", "").substr(0, 254)),
            "the gain type is the key's");
+    const std::optional<store::ModelSection> section = catalogue.LoadModel(maker, model);
+    Expect(section && section->gainType == catalogue.LoadAntennaGainType(maker, model), "a model is loaded whole");
 }
 
 float Figure(const ProfileModel& file, const std::string& type, const std::string& key, float otherwise)
@@ -81,6 +85,11 @@ float Figure(const ProfileModel& file, const std::string& type, const std::strin
 bool IsSameFigure(const std::optional<float>& figure, float expected)
 {
     return std::bit_cast<std::uint32_t>(figure.value_or(-7.0F)) == std::bit_cast<std::uint32_t>(expected);
+}
+
+std::array<std::uint32_t, 9> Bits(const std::array<float, 9>& figures)
+{
+    return std::bit_cast<std::array<std::uint32_t, 9>>(figures);
 }
 
 void CheckCable(const store::Catalogue& catalogue, const std::string& maker, const ProfileModel& file,
@@ -99,6 +108,10 @@ void CheckCable(const store::Catalogue& catalogue, const std::string& maker, con
     Expect(IsSameFigure(factors[2], Figure(file, type, "K2", 3)), "K2 is its key's");
     Expect(IsSameFigure(specs.Spec1, Figure(file, type, "Spec1", -7)), "the diameter is its key's");
     Expect(IsSameFigure(same.Spec2, Figure(file, type, "Spec2", -7)), "the impedance is its key's");
+    std::array<float, 9> own = kHeld;
+    Expect(catalogue.LoadCable(maker, type, own).has_value(), "a cable is loaded whole");
+    Expect(Bits(own) == Bits(store::Catalogue::IsKFactorMaker(maker, type) ? factors : losses),
+           "a cable has the figures of its maker's kind");
 }
 
 /// Looks at one maker of the list and at one of its models.
@@ -136,6 +149,12 @@ void CheckAsked(MemoryFiles& files, const store::Catalogue& catalogue, Input& in
     const store::CableFigures losses = catalogue.LoadCableLoss(maker, model, figures);
     const store::CableFigures factors = catalogue.LoadCableKFactors(maker, model, figures);
     Expect(IsPlainName(maker) || (!losses.Spec1 && !factors.Spec2), "a name that can be no file's has no figures");
+    const std::array<float, 9> before = figures;
+    files.FailAt(failing, EIO);
+    const bool isCableRead = catalogue.LoadCable(maker, model, figures).has_value();
+    Expect(isCableRead || Bits(figures) == Bits(before), "a cable that cannot be read leaves the figures");
+    files.FailAt(failing, EIO);
+    static_cast<void>(catalogue.LoadModel(maker, model));
     Expect(catalogue.GetDataFileList(model).empty() || model == "Antennas" || model == "Cables",
            "two kinds are listed");
     Expect(store::Catalogue::IsKFactorMaker(maker, model) == (ProfileModel::StripBlanks(maker) == "TIMES MICROWAVE"),

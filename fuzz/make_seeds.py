@@ -43,7 +43,8 @@ def read_seeds():
             yield section + RECORD + bytes([part]) + name + FIELD + key + FIELD + b"none " + FIELD + b"\x14"
     many = b"".join(b"[S%d]\n" % number for number in range(40))
     for part in b"\0\1\2":
-        yield many + b"a=1\n" + RECORD + bytes([part]) + b"s39" + FIELD + b"a"
+        for name in b"s39", b"none":
+            yield many + b"a=1\n" + RECORD + bytes([part]) + name + FIELD + b"a"
         yield REPEAT + b"\xff[a quite long name of a section]\nkey=1\n" + RECORD + bytes([part])
         yield b"[s]\n" + RECORD + bytes([part]) + b"s"
 

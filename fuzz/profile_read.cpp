@@ -75,6 +75,14 @@ void CheckManager(const store::INIManager& manager, const ProfileModel& model, c
     Expect(manager.GetAllSections(kFile) == ListedSections(model), "sections as listed");
 }
 
+/// A long file's first names are found without reading all of it.
+void CheckFirstNames(MemoryFiles& files, const ProfileModel& model, std::size_t enough)
+{
+    const std::string all = ProfileModel::Joined(model.Sections(), kAll);
+    const std::string first = store::ProfileStore(files).SectionNames(kFile, enough);
+    Expect(first.substr(0, enough) == all.substr(0, enough), "the first names are those of the whole file");
+}
+
 void Run(Input input)
 {
     const std::string text = input.FileText();
@@ -96,6 +104,7 @@ void Run(Input input)
     } else {
         CheckManager(manager, model, query);
     }
+    CheckFirstNames(files, model, query.buffer.size() % 8);
     Expect(files.Get(kFile) == text, "reading changes nothing");
     Expect(files.IsAllClosed(), "all files are closed");
 }
