@@ -107,7 +107,7 @@ TEST_F(CatalogueReads, ModelIsWholeOrNoneWhateverCallFails)
         EXPECT_TRUE(!model || (model->gainType == "dBd" && model->bands.at(5).gain == "71"));
         return model ? Reading::Whole : Reading::Failed;
     });
-    EXPECT_GE(failed, 20);
+    EXPECT_GE(failed, 4) << "looking at the file, opening it, asking for its size, reading it; more while it is new";
 }
 
 TEST_F(CatalogueReads, ModelIsNoneOfAMakerWhoseNameAFolderHas)
@@ -137,7 +137,7 @@ TEST_F(CatalogueReads, CableIsWholeOrNoneWhateverCallFails)
         EXPECT_TRUE(!cable || cable->Spec1 == 0.4F);
         return cable ? Reading::Whole : Reading::Failed;
     });
-    EXPECT_GE(failed, 20);
+    EXPECT_GE(failed, 4) << "looking at the file, opening it, asking for its size, reading it; more while it is new";
 }
 
 } // namespace

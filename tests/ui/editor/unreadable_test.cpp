@@ -84,7 +84,7 @@ TEST_F(UnreadableModel, KeepsItsBandsWhateverCallFailsWhileItIsShown)
         EXPECT_EQ(File("ACME.DAT"), before) << failing;
         told += notifier.Messages() == m_told ? 1 : 0;
     }
-    EXPECT_GE(told, 4) << "looking at the file, opening it, asking for its size, reading it";
+    EXPECT_GE(told, 4) << "looking at the file, opening it, asking for its size, reading it; more while it is new";
 }
 
 } // namespace

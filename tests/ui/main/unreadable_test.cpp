@@ -134,7 +134,7 @@ TEST_P(Unreadable, SavedFiguresStandWhateverCallFailsWhileTheyAreShown)
         EXPECT_TRUE(!IsMarked(Bands()) || Data().UseAntennaList == engine::kTrue) << failing;
         kept += IsMarked(Bands()) || IsMarked(Types()) ? 1 : 0;
     }
-    EXPECT_GE(kept, 20);
+    EXPECT_GE(kept, 4) << "looking at the file, opening it, asking for its size, reading it; more while it is new";
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Unreadable, BothSystems(), SystemName());
