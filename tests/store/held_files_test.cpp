@@ -1,0 +1,160 @@
+// What the store keeps of files that it has read, and when it reads them again.
+#include "tests/store/profile_store_fixture.h"
+
+#include <ctime>
+#include <unistd.h>
+
+namespace quillon::store {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+class HeldFiles : public ProfileStoreTest
+{
+};
+
+TEST_F(HeldFiles, ReadsAFileOnceAndThenLooksAtItsStampOnly)
+{
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    Settle(m_file);
+    EXPECT_EQ(Value(m_file), "1");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_file), "1");
+    EXPECT_EQ(m_calls.Made(), Names{"stat"});
+}
+
+TEST_F(HeldFiles, SeesAChangeFromOutsideAtTheNextCall)
+{
+    for (int round = 0; round < 200; ++round) { // as quickly as the times of the file system allow, and of equal size
+        const std::string value = std::to_string(100 + round);
+        m_folder.Put("f.dat", "[s]\nk=" + value + "\n");
+        ASSERT_EQ(Value(m_file), value);
+    }
+}
+
+/// A file system whose times stand still.
+class StoppedClock : public FileCalls
+{
+public:
+    explicit StoppedClock(timespec time)
+        : m_time(time)
+    {
+    }
+
+    int Stat(const char* path, struct stat* status) override { return Set(FileCalls::Stat(path, status), status); }
+
+    int Fstat(int descriptor, struct stat* status) override
+    {
+        return Set(FileCalls::Fstat(descriptor, status), status);
+    }
+
+    ssize_t Read(int descriptor, void* buffer, std::size_t length) override
+    {
+        ++m_reads;
+        return FileCalls::Read(descriptor, buffer, length);
+    }
+
+    [[nodiscard]] int Reads() const noexcept { return m_reads; }
+
+private:
+    int Set(int result, struct stat* status) const
+    {
+        status->st_mtim = m_time;
+        status->st_ctim = m_time;
+        return result;
+    }
+
+    timespec m_time;
+    int m_reads = 0;
+};
+
+TEST_F(HeldFiles, SeesAChangeWithinOneStepOfTheFileSystemsClock)
+{
+    timespec now{};
+    ASSERT_EQ(::clock_gettime(CLOCK_REALTIME, &now), 0);
+    now.tv_sec += 60; // just now, however long the test takes
+    StoppedClock calls(now);
+    ProfileStore store(calls);
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
+    m_folder.Put("f.dat", "[s]\nk=2\n");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "2");
+}
+
+TEST_F(HeldFiles, TakesAFileAsUnchangedOnceItsTimeIsPast)
+{
+    StoppedClock calls({1000, 0});
+    ProfileStore store(calls);
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
+    EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
+    EXPECT_EQ(calls.Reads(), 1);
+}
+
+TEST_F(HeldFiles, SeesAChangeBehindAModificationTimePutBack)
+{
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    Settle(m_file);
+    EXPECT_EQ(Value(m_file), "1");
+    const auto time = fs::last_write_time(m_file);
+    m_folder.Put("f.dat", "[s]\nk=2\n");
+    fs::last_write_time(m_file, time);
+    EXPECT_EQ(Value(m_file), "2");
+}
+
+TEST_F(HeldFiles, SeesAFileGoAndCome)
+{
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    EXPECT_EQ(Value(m_file), "1");
+    fs::remove(m_file);
+    EXPECT_EQ(Value(m_file), "none");
+    m_folder.Put("f.dat", "[s]\nk=2\n");
+    EXPECT_EQ(Value(m_file), "2");
+}
+
+TEST_F(HeldFiles, KeepsTheFileInMemoryWhenNothingChanges)
+{
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    Settle(m_file);
+    EXPECT_TRUE(Write(m_file, "1"));
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_file), "1");
+    EXPECT_EQ(Count("read"), 0);
+}
+
+TEST_F(HeldFiles, HoldsTheLastFilesOnly)
+{
+    for (int number = 0; number < 9; ++number) {
+        const std::string name = std::to_string(number);
+        Settle(m_folder.Put(name, "[s]\nk=" + name + "\n"));
+        EXPECT_EQ(Value(m_folder / name), name);
+    }
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_folder / "1"), "1");
+    EXPECT_EQ(Count("read"), 0);
+    EXPECT_EQ(Value(m_folder / "0"), "0");
+    EXPECT_GT(Count("read"), 0);
+}
+
+TEST_F(HeldFiles, HoldsALongFileOnlyWhileNoOtherOneIsAskedFor)
+{
+    for (const char* name : {"long", "short"}) {
+        Settle(m_folder.Put(name, "[s]\nk=1\n"));
+    }
+    ASSERT_EQ(::truncate((m_folder / "long").c_str(), 5'000'000), 0);
+    Settle(m_folder / "long");
+    EXPECT_EQ(Value(m_folder / "long"), "1");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_folder / "long"), "1");
+    EXPECT_EQ(Count("read"), 0);
+    EXPECT_EQ(Value(m_folder / "short"), "1");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_folder / "short"), "1");
+    EXPECT_EQ(Count("read"), 0);
+    EXPECT_EQ(Value(m_folder / "long"), "1");
+    EXPECT_GT(Count("read"), 0);
+}
+
+} // namespace
+} // namespace quillon::store
