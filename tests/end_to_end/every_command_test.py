@@ -4,8 +4,8 @@
 import os
 from unittest import mock
 
-from program_case import BOTH_ERPS, ProgramCase, contents, run
-from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, wait_for
+from program_case import ProgramCase, contents, run
+from quillon_window import SYSTEM_TWO, QuillonWindow, wait_for
 from window_titles import ABOUT, CLOSING, EDITOR, HELP, LOAD, PRINT, SAVE, TABLE
 
 # Key of the command, window that it opens, key that closes that.
@@ -63,11 +63,6 @@ class EveryCommand(ProgramCase):
     def wait_for_start(self, what):
         wait_for(f"the start of {what}", lambda: self.started.read_text() == what + "\n", self.started.read_text)
         self.started.write_text("")
-
-    def configure(self, window):
-        window.choose_system(1, **SYSTEM_ONE)
-        window.choose_system(2, **SYSTEM_TWO)
-        window.wait_for_names(*BOTH_ERPS)
 
     def test_each_has_a_key_of_its_own(self):
         before = contents(self.folder)
@@ -159,7 +154,7 @@ class EveryCommand(ProgramCase):
 
     def test_a_configured_pair_is_saved_on_the_way_out(self):
         with QuillonWindow(self.program) as window:
-            self.configure(window)
+            window.choose_both_systems()
             window.press("ctrl+q")
             window.wait_for_dialog(CLOSING)
             window.press("Return")  # Cancel
@@ -179,7 +174,7 @@ class EveryCommand(ProgramCase):
     def test_a_configured_pair_may_be_left_unsaved(self):
         before = contents(self.folder)
         with QuillonWindow(self.program) as window:
-            self.configure(window)
+            window.choose_both_systems()
             window.press("ctrl+q")
             window.wait_for_dialog(CLOSING)
             window.press("alt+n")
@@ -188,7 +183,7 @@ class EveryCommand(ProgramCase):
 
     def test_the_close_box_asks_nothing(self):
         with QuillonWindow(self.program) as window:
-            self.configure(window)
+            window.choose_both_systems()
             window.press("alt+F4")
             self.assertEqual(window.wait_for_end(), 0)
 

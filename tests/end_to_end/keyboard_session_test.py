@@ -8,7 +8,7 @@ from unittest import mock
 
 from program_case import ROOT, ProgramCase, run
 from quillon_window import QuillonWindow, wait_for
-from window_titles import CLOSING, EDITOR, HELP, LOAD, PRINT, SAVE, TABLE
+from window_titles import CLOSING, EDITOR, HELP, PRINT, TABLE
 
 sys.path.insert(0, str(ROOT / "tests" / "support"))
 
@@ -70,12 +70,7 @@ class KeyboardSession(ProgramCase):
 
     def save(self, window):
         saved = self.folder / "QuillonSystems.dat"
-        window.press("ctrl+s")
-        window.wait_for_dialog(SAVE)
-        window.press("alt+s")
-        wait_for("the saved pair", saved.read_bytes)
-        window.press("Return")
-        window.wait_for_no_dialog()
+        window.save_pair(saved)
         self.assertTrue(saved.read_bytes().startswith(b"[SavedSystems]\r\nSystem:1=HY-GAIN / TH7DX\r\n"))
 
     def edit_an_antenna(self, window):
@@ -100,10 +95,7 @@ class KeyboardSession(ProgramCase):
         window.tab_to("System 2 power, watts")
         window.type("1")
         window.wait_for_names(WITH_ONE_WATT)
-        window.press("ctrl+o")
-        window.wait_for_dialog(LOAD)
-        window.press("alt+l")
-        window.wait_for_no_dialog()
+        window.load_pair()
         window.wait_for_names(*EDITED)
 
     def print(self, window):

@@ -14,12 +14,6 @@ sys.path.insert(0, str(ROOT / "scripts"))
 
 PROGRAM = Path(sys.argv[1]).resolve()
 
-# System One, 14.25 MHz and 100 ft: 0.55 + 0.01 + 2 * 0.1 * (1.3 - 0.55) = 0.71 dB; by the row of 0.7 dB 85.11 W arrive;
-# 5.0 dBd are a factor of 3.162.
-# System Two, 144.2 MHz by its band: 0.12229 * sqrt(144.2) + 0.00026 * 144.2 = 1.506 dB; by the row of 1.5 dB 70.77 W
-# arrive; 12.1 dBd are a factor of 16.22.
-BOTH_ERPS = ("Antenna System ERP, System 1: 269.12 W", "Antenna System ERP, System 2: 1147.89 W")
-
 
 def contents(folder):
     return {path: path.read_bytes() for path in sorted(folder.rglob("*")) if path.is_file()}

@@ -5,8 +5,8 @@ import os
 from unittest import mock
 
 from heard_changes import HeardChanges
-from program_case import BOTH_ERPS, ProgramCase, run
-from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, has_state, name_of, text_of, wait_for
+from program_case import ProgramCase, run
+from quillon_window import BOTH_ERPS, SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, has_state, name_of, text_of, wait_for
 from spoken_controls import Atspi, controls_of, everything_below, labels_of, unlabelled
 from window_titles import ABOUT, EDITOR, HELP, LOAD, MAIN, PRINT, SAVE, SPLASH, TABLE, UPDATE
 
@@ -45,6 +45,14 @@ WITH_VSWR = ("0.03", "0.0353", "0.71", "14.89", "5.00", "183.95", "4.28", "85.08
 WITH_50_FEET = ("0.03", "0.0353", "0.36", "8.76", "5.00", "197.20", "4.63", "91.21", "288.41")
 # Two connectors more, 0.01304 dB.
 WITH_CONNECTORS = ("0.03", "0.0353", "0.36", "8.76", "5.00", "197.20", "4.62", "91.21", "288.41")
+
+# Control, keys, and what is read of System 1 and System 2 from then on.
+CHANGES = [
+    ("System 1 VSWR, tenths", ("Up",), WITH_VSWR, CHOSEN_TWO),
+    ("System 1 coax length, feet", "50", WITH_50_FEET, CHOSEN_TWO),
+    ("System 1 number of connectors", "4", WITH_CONNECTORS, CHOSEN_TWO),
+    ("System 2 power, watts", "200", WITH_CONNECTORS, WITH_200_WATTS),
+]
 
 
 def spoken(system, values):
@@ -191,18 +199,11 @@ class Results(ProgramCase):
             self.expect(window, CHOSEN_ONE, AT_START)
             window.choose_system(2, **SYSTEM_TWO)
             self.expect(window, CHOSEN_ONE, CHOSEN_TWO)
-            window.tab_to("System 1 VSWR, tenths")
-            window.press("Up")
-            self.expect(window, WITH_VSWR, CHOSEN_TWO)
-            window.tab_to("System 1 coax length, feet")
-            window.type("50")
-            self.expect(window, WITH_50_FEET, CHOSEN_TWO)
-            window.tab_to("System 1 number of connectors")
-            window.type("4")
-            self.expect(window, WITH_CONNECTORS, CHOSEN_TWO)
-            window.tab_to("System 2 power, watts")
-            window.type("200")
-            self.expect(window, WITH_CONNECTORS, WITH_200_WATTS)
+            for control, keys, one, two in CHANGES:
+                window.tab_to(control)
+                for key in keys:
+                    window.press(key)
+                self.expect(window, one, two)
 
     def test_a_spin_control_is_read_as_the_figure_that_it_sets(self):
         with QuillonWindow(self.program) as window:
@@ -228,9 +229,7 @@ class Results(ProgramCase):
 
     def test_and_their_better_sides_are_announced(self):
         with QuillonWindow(self.program) as window, HeardChanges() as heard:
-            window.choose_system(1, **SYSTEM_ONE)
-            window.choose_system(2, **SYSTEM_TWO)
-            window.wait_for_names(*BOTH_ERPS)
+            window.choose_both_systems()
             self.assertIn(("Antenna Feedpoint Power", "System 1 better"), self.marks(window))
             window.tab_to("System 2 power, watts")
             heard.forget()

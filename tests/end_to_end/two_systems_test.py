@@ -4,8 +4,8 @@
 import collections
 import subprocess
 
-from program_case import BOTH_ERPS, ProgramCase, contents, run
-from quillon_window import PATIENCE, SYSTEM_ONE, SYSTEM_TWO, QuillonWindow
+from program_case import ProgramCase, contents, run
+from quillon_window import BOTH_ERPS, PATIENCE, SYSTEM_ONE, SYSTEM_TWO, QuillonWindow
 from window_titles import MAIN
 
 

@@ -18,9 +18,9 @@ PACKAGES = Path(sys.argv[1]).resolve()
 # The other tests' common part takes its first argument for the program.
 sys.argv[1] = os.devnull
 
-from program_case import BOTH_ERPS, contents  # noqa: E402
-from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, name_of, wait_for  # noqa: E402
-from window_titles import LOAD, MAIN, SAVE, UNWRITABLE  # noqa: E402
+from program_case import contents  # noqa: E402
+from quillon_window import BOTH_ERPS, QuillonWindow, name_of, wait_for  # noqa: E402
+from window_titles import MAIN, UNWRITABLE  # noqa: E402
 
 
 
@@ -88,23 +88,13 @@ class PackageCase(unittest.TestCase):
 class LifeCycle(PackageCase):
     def configure_and_save(self):
         with QuillonWindow(self.system.launcher) as window:
-            window.choose_system(1, **SYSTEM_ONE)
-            window.choose_system(2, **SYSTEM_TWO)
-            window.wait_for_names(*BOTH_ERPS)
-            window.press("ctrl+s")
-            window.wait_for_dialog(SAVE)
-            window.press("alt+s")
-            wait_for("the saved pair", (self.folder / "QuillonSystems.dat").read_bytes)
-            window.press("Return")
-            window.wait_for_no_dialog()
+            window.choose_both_systems()
+            window.save_pair(self.folder / "QuillonSystems.dat")
 
     def load(self):
         with QuillonWindow(self.system.launcher) as window:
             program = os.readlink(f"/proc/{window._process.pid}/exe")
-            window.press("ctrl+o")
-            window.wait_for_dialog(LOAD)
-            window.press("alt+l")
-            window.wait_for_no_dialog()
+            window.load_pair()
             window.wait_for_names(*BOTH_ERPS)
         self.assertEqual(program, str(self.folder / "Quillon"))
 

@@ -21,9 +21,9 @@ ROOT = HERE.parents[1]
 sys.path[:0] = [str(ROOT / "scripts"), str(ROOT / "tests" / "support")]
 
 from private_printer import PrivatePrinter  # noqa: E402
-from quillon_window import SYSTEM_ONE, SYSTEM_TWO, QuillonWindow, wait_for  # noqa: E402
+from quillon_window import QuillonWindow, wait_for  # noqa: E402
 from session_trace_log import TRACED, TraceLog  # noqa: E402
-from window_titles import ABOUT, EDITOR, HELP, LOAD, PRINT, SAVE, TABLE  # noqa: E402
+from window_titles import ABOUT, EDITOR, HELP, LOAD, PRINT, TABLE  # noqa: E402
 
 # Written outside the data folder, with the reason. @ stands for the folder that the session's own home is in, % for the
 # one that the desktop gives a session.
@@ -80,21 +80,11 @@ def look_around(session, window):
 
 def save_and_load(session, window, saved):
     with session.step("choose both systems"):
-        window.choose_system(1, **SYSTEM_ONE)
-        window.choose_system(2, **SYSTEM_TWO)
-        window.wait_for_names("Antenna System ERP, System 2: 1147.89 W")
+        window.choose_both_systems()
     with session.step("save", r"\.?QuillonSystems\.dat(\.tmp)?"):
-        window.press("ctrl+s")
-        window.wait_for_dialog(SAVE)
-        window.press("alt+s")
-        wait_for("the saved pair", saved.read_bytes)
-        window.press("Return")
-        window.wait_for_no_dialog()
+        window.save_pair(saved)
     with session.step("load"):
-        window.press("ctrl+o")
-        window.wait_for_dialog(LOAD)
-        window.press("alt+l")
-        window.wait_for_no_dialog()
+        window.load_pair()
 
 
 def edit(session, window, file):

@@ -83,8 +83,14 @@ int VirtualKey(const QKeyEvent& event, const QString& platform)
     if (IsInRange(key, Qt::Key_0, Qt::Key_9) || IsInRange(key, Qt::Key_A, Qt::Key_Z)) {
         return key;
     }
+    const int code = NamedKeyCode(key);
+    return code != 0 ? code : kOtherKey;
+}
+
+int NamedKeyCode(int key)
+{
     const auto* const found = std::ranges::find(kNamedKeys, key, &KeyCode::key);
-    return found != kNamedKeys.end() ? found->code : kOtherKey;
+    return found != kNamedKeys.end() ? found->code : 0;
 }
 
 bool IsModifierAlone(const QKeyEvent& event)

@@ -12,6 +12,10 @@ namespace quillon::ui {
 /// The same for a windowing platform by name: "xcb" and "wayland" tell which place of the keyboard was pressed.
 [[nodiscard]] int VirtualKey(const QKeyEvent& event, const QString& platform);
 
+/// Code of a key that has one whatever it types: 8 Backspace, 9 Tab, 13 Enter, 27 Esc, 32 the space bar, 33 to 40 the
+/// paging and arrow keys, 45 Insert, 46 Delete, 188 to 190 comma, minus and point; 0 for all others.
+[[nodiscard]] int NamedKeyCode(int key);
+
 /// Whether the event is a modifier key alone (Shift, Ctrl, Alt, Meta, locks): nothing is typed by it.
 [[nodiscard]] bool IsModifierAlone(const QKeyEvent& event);
 

@@ -1,29 +1,12 @@
 #include "tests/ui/main/window_fixture.h"
 
 #include "tests/support/row_name.h"
+#include "tests/ui/main/test_catalogue.h"
 
 #include <functional>
 
 namespace quillon::ui {
 namespace {
-
-/// What reading a saved pair leaves in a record: no flags, no results, catalogue figures as they were saved.
-engine::SystemData SavedRecord()
-{
-    engine::SystemData data;
-    data.AntennaBrand = "WIRECRAFT";
-    data.AntennaModel = "BEAM FOUR";
-    data.AntennaGain = 5.0F;
-    data.CoaxBrand = "CABLEWORKS";
-    data.CoaxModel = "RG-8X";
-    data.CoaxLoss = 1.31F;
-    data.CoaxLength = 100;
-    data.Frequency = 14.25F;
-    data.Connectors = 2;
-    data.XmitPower = 100;
-    data.VSWR = 1.1F;
-    return data;
-}
 
 class ShownRecord : public EachSystem
 {

@@ -129,4 +129,21 @@ void PutCatalogues(support::TempFolder& folder)
     folder.Put("Coax/TIMES MICROWAVE.DAT", kTimes);
 }
 
+engine::SystemData SavedRecord()
+{
+    engine::SystemData data;
+    data.AntennaBrand = "WIRECRAFT";
+    data.AntennaModel = "BEAM FOUR";
+    data.AntennaGain = 5.0F;
+    data.CoaxBrand = "CABLEWORKS";
+    data.CoaxModel = "RG-8X";
+    data.CoaxLoss = 1.31F;
+    data.CoaxLength = 100;
+    data.Frequency = 14.25F;
+    data.Connectors = 2;
+    data.XmitPower = 100;
+    data.VSWR = 1.1F;
+    return data;
+}
+
 } // namespace quillon::ui

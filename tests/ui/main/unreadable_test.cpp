@@ -1,3 +1,4 @@
+#include "tests/ui/main/test_catalogue.h"
 #include "tests/ui/main/window_fixture.h"
 
 #include <filesystem>
@@ -109,17 +110,9 @@ TEST_P(Unreadable, ChangedGainIsTakenOverWholeOrNotWhateverCallFails)
 
 TEST_P(Unreadable, SavedFiguresStandWhateverCallFailsWhileTheyAreShown)
 {
-    engine::SystemData saved;
-    saved.AntennaBrand = "WIRECRAFT";
-    saved.AntennaModel = "BEAM FOUR";
+    engine::SystemData saved = SavedRecord();
     saved.AntennaGain = 4.5F;
-    saved.CoaxBrand = "CABLEWORKS";
-    saved.CoaxModel = "RG-8X";
     saved.CoaxLoss = 2.5F;
-    saved.CoaxLength = 100;
-    saved.Frequency = 14.25F;
-    saved.XmitPower = 100;
-    saved.VSWR = 1.1F;
     int kept = 0;
     for (int failing = 1; failing < 160; ++failing) {
         Data() = saved;
