@@ -63,14 +63,18 @@ std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
     return text.size();
 }
 
-/// Begin of the line of which the character at an offset is the first but for blanks; nothing when it is not.
-std::optional<std::size_t> LineStartedBy(std::string_view text, std::size_t offset) noexcept
+/// Begin of the blanks that stand before an offset.
+std::size_t BeginOfBlanks(std::string_view text, std::size_t offset) noexcept
 {
     while (offset > 0 && IsBlank(text[offset - 1])) {
         --offset;
     }
-    const bool isBegin = offset == 0 || text[offset - 1] == '\n' || text[offset - 1] == '\r';
-    return isBegin ? std::optional(offset) : std::nullopt;
+    return offset;
+}
+
+bool IsLineBegin(std::string_view text, std::size_t offset) noexcept
+{
+    return offset == 0 || text[offset - 1] == '\n' || text[offset - 1] == '\r';
 }
 
 } // namespace
@@ -88,16 +92,20 @@ LineSpan LineAt(std::string_view text, std::size_t begin) noexcept
 std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept
 {
     // Brackets are rare: looking for them passes over the other lines without looking at each.
-    std::size_t bracket = text.find('[', from);
-    while (bracket != std::string_view::npos) {
-        const std::optional<std::size_t> begin = LineStartedBy(text, bracket);
-        from = begin ? FindLineEnd(text, bracket) : bracket + 1;
-        const std::string_view name = text.substr(bracket + 1, from - bracket - 1);
-        const std::size_t close = begin ? name.rfind(']') : std::string_view::npos;
-        if (begin && close != std::string_view::npos) {
-            return HeaderLine{*begin, from, WithoutBlanks(name.substr(0, close))};
+    for (std::size_t bracket = text.find('[', from); bracket != std::string_view::npos;
+         bracket = text.find('[', from)) {
+        const std::size_t begin = BeginOfBlanks(text, bracket);
+        from = bracket + 1;
+        if (!IsLineBegin(text, begin)) {
+            continue;
         }
-        bracket = text.find('[', from);
+        const std::size_t end = FindLineEnd(text, from);
+        const std::string_view name = text.substr(from, end - from);
+        const std::size_t close = name.rfind(']');
+        if (close != std::string_view::npos) {
+            return HeaderLine{begin, end, WithoutBlanks(name.substr(0, close))};
+        }
+        from = end;
     }
     return std::nullopt;
 }
