@@ -17,13 +17,22 @@ def has_erp(window, system):
     return any(name.startswith(caption) and not name.startswith(caption + "0.00 ") for name in window.names())
 
 
+def choose(window):
+    """Chooses both systems, and returns once they are computed."""
+    for system, choices in SYSTEMS.items():
+        window.choose_system(system, **choices)
+        wait_for(f"the ERP of system {system}", lambda: has_erp(window, system), window.names)
+
+
+def take(window, picture):
+    subprocess.run(["maim", "--hidecursor", "--window", window.id, picture], check=True)
+
+
 def main():
     program, picture = sys.argv[1:]
     with QuillonWindow(program) as window:
-        for system, choices in SYSTEMS.items():
-            window.choose_system(system, **choices)
-            wait_for(f"the ERP of system {system}", lambda: has_erp(window, system), window.names)
-        subprocess.run(["maim", "--hidecursor", "--window", window.id, picture], check=True)
+        choose(window)
+        take(window, picture)
     print(f"A picture of the window with both systems chosen: {picture}")
 
 

@@ -23,6 +23,7 @@ class PrivatePrinter:
     def __init__(self, folder):
         self._folder = folder
         self.server = folder / "run" / "cups.sock"
+        self.caught = folder / "caught" / "1.pdf"  # the first page that was printed
         for name in ("etc/ppd", "spool", "tmp", "cache", "run", "log", "bin/backend", "caught"):
             (folder / name).mkdir(parents=True)
         for part in Path("/usr/lib/cups").iterdir():
@@ -48,7 +49,7 @@ class PrivatePrinter:
         return self
 
     def has_caught(self):
-        return (self._folder / "caught" / "1.pdf").exists()
+        return self.caught.exists()
 
     def __exit__(self, *_):
         self._service.terminate()
