@@ -1,15 +1,10 @@
 #include "engine/arithmetic_error.h"
 
-#include <cmath>
-
 namespace quillon::engine {
 
-float Checked(float value)
+void ThrowArithmeticError()
 {
-    if (!std::isfinite(value)) {
-        throw ArithmeticError("overflow or invalid operation");
-    }
-    return value;
+    throw ArithmeticError("overflow or invalid operation");
 }
 
 float StoreAsFloat(double value)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <stdexcept>
 
 namespace quillon::engine {
@@ -11,9 +12,18 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Out of line, so that what checks stays short. @throws ArithmeticError always.
+[[noreturn]] void ThrowArithmeticError();
+
 /// Passes a value on when it is finite.
 /// @throws ArithmeticError when it is infinite or no number.
-[[nodiscard]] float Checked(float value);
+[[nodiscard]] inline float Checked(float value)
+{
+    if (!std::isfinite(value)) {
+        ThrowArithmeticError();
+    }
+    return value;
+}
 
 /// Stores an intermediate result as the 32-bit value that it is kept as.
 /// @throws ArithmeticError when it is no number or too large for that.

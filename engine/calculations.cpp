@@ -2,70 +2,52 @@
 
 #include "engine/arithmetic_error.h"
 #include "engine/mask.h"
-#include "engine/number_text.h"
 
-#include <string_view>
 #include <utility>
-#include <vector>
 
 namespace quillon::engine {
 
-/// What one operation has worked out so far; nothing of it is seen outside before it is committed.
-class Calculations::Draft
+namespace {
+
+constexpr Mask kGainMask("#0.00");
+constexpr Mask kDecibelMask("##0.00");
+constexpr Mask kPowerMask("####0.00");
+constexpr Mask kERPMask("#####0.00");
+constexpr Mask kMismatchMask("0.0000");
+
+void ComputeCoaxDBLoss(Computation& draft)
 {
-public:
-    Draft(const AntennaSystems& systems, int number)
-        : system(ToSystemId(number))
-        , data(systems.Data[system])
-        , results(systems.Results[system])
-        , isComputed(systems.State[system].Flag(kComputeFlag) != kFalse)
-    {
+    draft.results.CoaxDBLoss = Checked(draft.data.CoaxLength / 100 * draft.data.CoaxLoss);
+    draft.ShowResult(ResultLabel::CoaxDBLoss, draft.results.CoaxDBLoss, kDecibelMask);
+}
+
+void ShowAntennaGain(Computation& draft)
+{
+    const std::string& gainType = draft.data.GainType;
+    draft.ShowResult(ResultLabel::AntennaGain, draft.data.AntennaGain, kGainMask);
+    // As given: the text says 2.14 where the catalogue gains lose 2.15.
+    if (gainType == "dBi") {
+        draft.ShowFormula(ResultLabel::AntennaGain, "Antenna Gain Figure is in dBi so 2.14 dB subtracted");
+    } else if (gainType == "dBd") {
+        draft.ShowFormula(ResultLabel::AntennaGain, "Antenna Gain Figure is in dBd so 0 dB subtracted");
     }
+}
 
-    void ShowResult(ResultLabel label, std::string text) { m_texts.push_back({label, false, std::move(text)}); }
+void ShowSystemGain(Computation& draft)
+{
+    SystemResults& results = draft.results;
+    const float losses = results.CoaxDBLoss + results.ConnectorLoss;
+    results.SystemGain = RoundWithMask(losses * -1 + results.AntennaGainDBd, kDecibelMask);
+    draft.ShowSystemGain();
+}
 
-    void ShowFormula(ResultLabel label, std::string text) { m_texts.push_back({label, true, std::move(text)}); }
-
-    void CompareSystems() noexcept { m_comparesSystems = true; }
-
-    /// Stores the results and shows the texts, in the order in which they came.
-    void Commit(AntennaSystems& systems, ResultsDisplay& display) const
-    {
-        systems.Results[system] = results;
-        for (const ShownText& shown : m_texts) {
-            if (shown.isFormula) {
-                display.ShowFormula(shown.label, system, shown.text);
-            } else {
-                display.ShowResult(shown.label, system, shown.text);
-            }
-        }
-        if (m_comparesSystems) {
-            display.CompareSystems();
-        }
-    }
-
-    const SystemId system;
-    const SystemData& data;
-    SystemResults results;
-    const bool isComputed;
-
-private:
-    struct ShownText
-    {
-        ResultLabel label;
-        bool isFormula;
-        std::string text;
-    };
-
-    std::vector<ShownText> m_texts;
-    bool m_comparesSystems = false;
-};
+} // namespace
 
 Calculations::Calculations(AntennaSystems& systems, ResultsDisplay& display, EngineHooks& hooks, std::string separator)
     : m_systems(systems)
     , m_display(display)
     , m_hooks(hooks)
-    , m_separator(std::move(separator))
+    , m_text(std::move(separator))
 {
 }
 
@@ -81,43 +63,48 @@ void Calculations::BuildVSWRTable()
 
 float Calculations::PowerFromDB(int kind, int system)
 {
-    Draft draft(m_systems, system);
+    Computation draft(m_systems, system);
     const float power = PowerFromDB(ToPowerKind(kind), draft);
-    draft.Commit(m_systems, m_display);
+    Commit(draft);
     return power;
 }
 
 float Calculations::ApplyVSWR(float power, int system)
 {
-    Draft draft(m_systems, system);
+    Computation draft(m_systems, system);
     const float accepted = ApplyVSWR(power, draft);
-    draft.Commit(m_systems, m_display);
+    Commit(draft);
     return accepted;
 }
 
 void Calculations::ComputeCoaxDBLoss(int system)
 {
-    Draft draft(m_systems, system);
-    ComputeCoaxDBLoss(draft);
-    draft.Commit(m_systems, m_display);
+    Computation draft(m_systems, system);
+    engine::ComputeCoaxDBLoss(draft);
+    Commit(draft);
 }
 
 void Calculations::ShowSystemResults(int system)
 {
-    Draft draft(m_systems, system);
+    Computation draft(m_systems, system);
     ShowSystemResults(draft);
-    draft.Commit(m_systems, m_display);
+    Commit(draft);
 }
 
 void Calculations::RefreshData(int system)
 {
-    Draft draft(m_systems, system);
-    ComputeCoaxDBLoss(draft);
-    ShowSystemResults(draft);
-    draft.Commit(m_systems, m_display);
+    Commit(Compute(system));
 }
 
-float Calculations::PowerFromDB(PowerKind kind, Draft& draft)
+Computation Calculations::Compute(int system)
+{
+    Computation draft(m_systems, system);
+    engine::ComputeCoaxDBLoss(draft);
+    ShowSystemResults(draft);
+    return draft;
+}
+
+float Calculations::PowerFromDB(PowerKind kind, Computation& draft)
 {
     // As given: only System One is heard, before the search for all kinds but the ERP, and again after the formula of
     // the antenna power gain and of the ERP.
@@ -131,15 +118,15 @@ float Calculations::PowerFromDB(PowerKind kind, Draft& draft)
         return 0;
     }
     const float coefficient = source.usesLossCoefficient ? row->lossCoefficient : row->gainCoefficient;
-    const PowerResult result = PowerFromCoefficient(kind, coefficient, source.power, m_separator);
-    draft.ShowFormula(FormulaLabel(kind), result.formula);
+    const PowerStep step = PowerFromCoefficient(kind, coefficient, source.power);
+    draft.ShowFormula(kind, step);
     if (isHeard && (kind == PowerKind::AntennaPowerGain || kind == PowerKind::ERP)) {
         m_hooks.Beep();
     }
-    return result.power;
+    return step.result;
 }
 
-float Calculations::ApplyVSWR(float power, Draft& draft) const
+float Calculations::ApplyVSWR(float power, Computation& draft) const
 {
     const auto row = FindVSWRRow(m_vswrTable, draft.data.VSWR);
     if (!row) {
@@ -147,17 +134,11 @@ float Calculations::ApplyVSWR(float power, Draft& draft) const
     }
     const float accepted = Checked(row->factor * power);
     draft.results.VSWRAttenuation = row->lossDB;
-    draft.results.VSWRPowerLoss = RoundWithMask(power - accepted, "0.0000");
+    draft.results.VSWRPowerLoss = RoundWithMask(power - accepted, kMismatchMask);
     return accepted;
 }
 
-void Calculations::ComputeCoaxDBLoss(Draft& draft) const
-{
-    draft.results.CoaxDBLoss = Checked(draft.data.CoaxLength / 100 * draft.data.CoaxLoss);
-    draft.ShowResult(ResultLabel::CoaxDBLoss, Masked(draft.results.CoaxDBLoss, "##0.00"));
-}
-
-void Calculations::ShowSystemResults(Draft& draft)
+void Calculations::ShowSystemResults(Computation& draft)
 {
     if (!draft.isComputed) {
         return;
@@ -168,58 +149,30 @@ void Calculations::ShowSystemResults(Draft& draft)
     draft.CompareSystems();
 }
 
-void Calculations::ShowAntennaGain(Draft& draft) const
-{
-    const std::string& gainType = draft.data.GainType;
-    draft.ShowResult(ResultLabel::AntennaGain, Masked(draft.data.AntennaGain, "#0.00"));
-    // As given: the text says 2.14 where the catalogue gains lose 2.15.
-    if (gainType == "dBi") {
-        draft.ShowFormula(ResultLabel::AntennaGain, "Antenna Gain Figure is in dBi so 2.14 dB subtracted");
-    } else if (gainType == "dBd") {
-        draft.ShowFormula(ResultLabel::AntennaGain, "Antenna Gain Figure is in dBd so 0 dB subtracted");
-    }
-}
-
-void Calculations::ShowSystemGain(Draft& draft) const
-{
-    SystemResults& results = draft.results;
-    const float losses = results.CoaxDBLoss + results.ConnectorLoss;
-    results.SystemGain = RoundWithMask(losses * -1 + results.AntennaGainDBd, "##0.00");
-    const std::string gain = Plain(results.SystemGain);
-    draft.ShowResult(ResultLabel::SystemGain, gain);
-    draft.ShowFormula(ResultLabel::SystemGain, Plain(results.AntennaGainDBd) + " + ((" + Plain(results.CoaxDBLoss) +
-                                                   " + " + Plain(results.ConnectorLoss) + ") * -1) = " + gain);
-}
-
-void Calculations::ShowPowers(Draft& draft)
+void Calculations::ShowPowers(Computation& draft)
 {
     SystemResults& results = draft.results;
     results.CoaxPowerLoss = PowerFromDB(PowerKind::CoaxPowerLoss, draft);
-    draft.ShowResult(ResultLabel::CoaxPowerLoss, Masked(results.CoaxPowerLoss, "####0.00"));
+    draft.ShowResult(ResultLabel::CoaxPowerLoss, results.CoaxPowerLoss, kPowerMask);
 
     const float leavingCoax = Checked(draft.data.XmitPower - results.CoaxPowerLoss);
     results.FeedPointPower = ApplyVSWR(leavingCoax, draft);
-    draft.ShowResult(ResultLabel::FeedPointPower, Masked(results.FeedPointPower, "####0.00"));
-    draft.ShowResult(ResultLabel::VSWRAttenuation, Masked(results.VSWRAttenuation, "0.0000"));
-    draft.ShowResult(ResultLabel::VSWRPowerLoss, Masked(results.VSWRPowerLoss, "####0.00"));
+    draft.ShowResult(ResultLabel::FeedPointPower, results.FeedPointPower, kPowerMask);
+    draft.ShowResult(ResultLabel::VSWRAttenuation, results.VSWRAttenuation, kMismatchMask);
+    draft.ShowResult(ResultLabel::VSWRPowerLoss, results.VSWRPowerLoss, kPowerMask);
 
     results.AntennaPowerGain = PowerFromDB(PowerKind::AntennaPowerGain, draft);
-    draft.ShowResult(ResultLabel::AntennaPowerGain, Masked(results.AntennaPowerGain, "####0.00"));
+    draft.ShowResult(ResultLabel::AntennaPowerGain, results.AntennaPowerGain, kPowerMask);
 
     if (draft.data.UseAntennaList != kFalse) {
-        results.ERP = RoundWithMask(PowerFromDB(PowerKind::ERP, draft), "#####0.00");
-        draft.ShowResult(ResultLabel::ERP, Masked(results.ERP, "#####0.00"));
+        results.ERP = RoundWithMask(PowerFromDB(PowerKind::ERP, draft), kERPMask);
+        draft.ShowResult(ResultLabel::ERP, results.ERP, kERPMask);
     }
 }
 
-std::string Calculations::Masked(float value, std::string_view mask) const
+void Calculations::Commit(const Computation& draft)
 {
-    return FormatWithMask(value, mask, m_separator);
-}
-
-std::string Calculations::Plain(float value) const
-{
-    return PlainText(value, m_separator);
+    draft.Commit(m_systems, m_display, m_text);
 }
 
 } // namespace quillon::engine

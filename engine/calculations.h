@@ -1,6 +1,8 @@
 #pragma once
 
+#include "engine/computation.h"
 #include "engine/db_table.h"
+#include "engine/number_writer.h"
 #include "engine/power_formula.h"
 #include "engine/records.h"
 #include "engine/results_display.h"
@@ -46,23 +48,20 @@ public:
     /// ComputeCoaxDBLoss, then ShowSystemResults, as one operation that succeeds or fails as a whole.
     void RefreshData(int system);
 
-private:
-    class Draft;
+    /// The first half of RefreshData: works everything out, stores and shows nothing.
+    [[nodiscard]] Computation Compute(int system);
 
-    float PowerFromDB(PowerKind kind, Draft& draft);
-    float ApplyVSWR(float power, Draft& draft) const;
-    void ComputeCoaxDBLoss(Draft& draft) const;
-    void ShowSystemResults(Draft& draft);
-    void ShowAntennaGain(Draft& draft) const;
-    void ShowSystemGain(Draft& draft) const;
-    void ShowPowers(Draft& draft);
-    [[nodiscard]] std::string Masked(float value, std::string_view mask) const;
-    [[nodiscard]] std::string Plain(float value) const;
+private:
+    float PowerFromDB(PowerKind kind, Computation& draft);
+    float ApplyVSWR(float power, Computation& draft) const;
+    void ShowSystemResults(Computation& draft);
+    void ShowPowers(Computation& draft);
+    void Commit(const Computation& draft);
 
     AntennaSystems& m_systems;
     ResultsDisplay& m_display;
     EngineHooks& m_hooks;
-    std::string m_separator;
+    NumberWriter m_text;
     DBTable m_dBTable;
     VSWRTable m_vswrTable;
 };

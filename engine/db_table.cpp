@@ -37,14 +37,6 @@ constexpr std::array<std::string_view, kDBRowCount> kGainCoefficients{
 
 // clang-format on
 
-/// The place halfway between two others, halves to even.
-int Middle(int low, int high) noexcept
-{
-    const int sum = low + high;
-    const int half = sum / 2;
-    return sum % 2 != 0 && half % 2 != 0 ? half + 1 : half;
-}
-
 DBTable RoundedTable()
 {
     DBTable table;
@@ -64,26 +56,6 @@ DBTable BuildDBTable()
     // Six hundred roundings take as long as twenty computations, and each pair that is loaded is tried on a table.
     static const DBTable table = RoundedTable();
     return table;
-}
-
-std::optional<DBRow> FindDBRow(const DBTable& table, float dB, const std::function<void()>& eachStep)
-{
-    int low = 0;
-    int high = kDBRowCount - 1;
-    while (low <= high) {
-        eachStep();
-        const int middle = Middle(low, high);
-        const DBRow& row = table[static_cast<std::size_t>(middle)];
-        if (row.dB == dB) {
-            return row;
-        }
-        if (dB < row.dB) {
-            high = middle - 1;
-        } else {
-            low = middle + 1;
-        }
-    }
-    return std::nullopt;
 }
 
 float GainToDBd(float gain, std::string_view gainType)

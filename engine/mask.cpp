@@ -1,32 +1,46 @@
 #include "engine/mask.h"
 
-#include "engine/decimal.h"
 #include "engine/number_text.h"
-
-#include <algorithm>
-#include <cstddef>
 
 namespace quillon::engine {
 
+namespace {
+
+void AppendDigitsWithMask(std::string& text, float value, const Mask& mask, std::string_view separator)
+{
+    Decimal number = ShortestDecimal(value);
+    RoundToPlaces(number, mask.Places());
+    text += LayOut(number, mask.Layout(), separator);
+}
+
+} // namespace
+
 std::string FormatWithMask(float value, std::string_view mask, std::string_view separator)
 {
-    const std::size_t point = std::min(mask.find('.'), mask.size());
-    const std::string_view whole = mask.substr(0, point);
-    const std::string_view fraction = mask.substr(std::min(point + 1, mask.size()));
+    std::string text;
+    AppendWithMask(text, value, Mask(mask), separator);
+    return text;
+}
 
-    DecimalLayout layout;
-    layout.wholeDigits = static_cast<int>(whole.size() - std::min(whole.find('0'), whole.size()));
-    layout.places = static_cast<int>(fraction.rfind('0') + 1);
-    layout.alwaysPoint = point < mask.size();
+void AppendWithMask(std::string& text, float value, const Mask& mask, std::string_view separator)
+{
+    if (const ScaledNumber number = ScaleShortest(value, mask.Places())) {
+        AppendScaled(text, number, mask.Layout(), separator);
+    } else {
+        AppendDigitsWithMask(text, value, mask, separator);
+    }
+}
 
-    Decimal number = ShortestDecimal(value);
-    RoundToPlaces(number, static_cast<int>(fraction.size()));
-    return LayOut(number, layout, separator);
+float RoundDigitsWithMask(float value, const Mask& mask)
+{
+    std::string text;
+    AppendDigitsWithMask(text, value, mask, ".");
+    return NumberFromText(text);
 }
 
 float RoundWithMask(float value, std::string_view mask)
 {
-    return NumberFromText(FormatWithMask(value, mask));
+    return RoundWithMask(value, Mask(mask));
 }
 
 } // namespace quillon::engine

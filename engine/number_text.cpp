@@ -2,6 +2,7 @@
 
 #include "engine/arithmetic_error.h"
 #include "engine/decimal.h"
+#include "engine/scaled_number.h"
 
 #include <algorithm>
 #include <charconv>
@@ -46,13 +47,29 @@ bool IsBelowOne(std::string_view number) noexcept
     return wholeDigits - firstDigit + ExponentOf(number) < 0;
 }
 
+void AppendDigits(std::string& text, float value, std::string_view separator)
+{
+    Decimal number = ExactDecimal(value);
+    RoundToPlaces(number, kPlainDigits - number.point);
+    text += LayOut(number, {}, separator);
+}
+
 } // namespace
 
 std::string PlainText(float value, std::string_view separator)
 {
-    Decimal number = ExactDecimal(value);
-    RoundToPlaces(number, kPlainDigits - number.point);
-    return LayOut(number, {}, separator);
+    std::string text;
+    AppendPlainText(text, value, separator);
+    return text;
+}
+
+void AppendPlainText(std::string& text, float value, std::string_view separator)
+{
+    if (const ScaledNumber number = ScaleToSevenDigits(value)) {
+        AppendScaled(text, number, {}, separator);
+    } else {
+        AppendDigits(text, value, separator);
+    }
 }
 
 std::string ShortestText(float value, std::string_view separator)

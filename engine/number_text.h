@@ -13,6 +13,9 @@ namespace quillon::engine {
 /// @throws ArithmeticError when value is not finite.
 [[nodiscard]] std::string PlainText(float value, std::string_view separator = ".");
 
+/// The same, written to the end of a text.
+void AppendPlainText(std::string& text, float value, std::string_view separator);
+
 /// Shortest text that reads back as the same float, without exponent: for files, reports and text boxes.
 /// @param separator  what stands between the whole part and the fraction.
 /// @throws ArithmeticError when value is not finite.

@@ -2,7 +2,7 @@
 
 #include "engine/arithmetic_error.h"
 #include "engine/mask.h"
-#include "engine/number_text.h"
+#include "engine/number_writer.h"
 
 #include <array>
 #include <cstddef>
@@ -12,7 +12,8 @@ namespace quillon::engine {
 
 namespace {
 
-constexpr std::string_view kPowerMask = "#0.00";
+constexpr Mask kSearchMask("##0.0");
+constexpr Mask kPowerMask("#0.00");
 
 constexpr std::array kFormulaLabels{
     ResultLabel::AntennaPowerGain,
@@ -52,30 +53,40 @@ PowerKind ToPowerKind(int number)
 PowerSource SourceOf(PowerKind kind, const SystemData& data, const SystemResults& results)
 {
     PowerSource source = UnroundedSourceOf(kind, data, results);
-    source.dB = RoundWithMask(source.dB, "##0.0");
+    source.dB = RoundWithMask(source.dB, kSearchMask);
     return source;
 }
 
-PowerResult PowerFromCoefficient(PowerKind kind, float coefficient, float power, std::string_view separator)
+PowerStep PowerFromCoefficient(PowerKind kind, float coefficient, float power)
 {
-    const auto plain = [separator](float value) { return PlainText(value, separator); };
     const float product = Checked(coefficient * power);
-    const std::string factors = plain(power) + " * " + plain(coefficient);
     switch (kind) {
-    case PowerKind::AntennaPowerGain: {
-        const float added = product - power;
-        return {added, "(" + factors + ") - " + plain(power) + " = " + plain(added)};
-    }
-    case PowerKind::SystemPower: {
-        const float reached = RoundWithMask(product, kPowerMask);
-        return {reached, factors + " = " + plain(reached)};
-    }
-    case PowerKind::CoaxPowerLoss: {
-        const float lost = RoundWithMask(power - product, kPowerMask);
-        return {lost, plain(power) + " - (" + factors + ") = " + plain(lost)};
-    }
+    case PowerKind::AntennaPowerGain:
+        return {power, coefficient, Checked(product - power)};
+    case PowerKind::SystemPower:
+        return {power, coefficient, RoundWithMask(product, kPowerMask)};
+    case PowerKind::CoaxPowerLoss:
+        return {power, coefficient, RoundWithMask(power - product, kPowerMask)};
     default:
-        return {product, "(" + factors + ") = " + plain(product)};
+        return {power, coefficient, product};
+    }
+}
+
+void WritePowerFormula(NumberWriter& text, PowerKind kind, const PowerStep& step)
+{
+    const auto& [power, coefficient, result] = step;
+    switch (kind) {
+    case PowerKind::AntennaPowerGain:
+        text << "(" << power << " * " << coefficient << ") - " << power << " = " << result;
+        return;
+    case PowerKind::SystemPower:
+        text << power << " * " << coefficient << " = " << result;
+        return;
+    case PowerKind::CoaxPowerLoss:
+        text << power << " - (" << power << " * " << coefficient << ") = " << result;
+        return;
+    default:
+        text << "(" << power << " * " << coefficient << ") = " << result;
     }
 }
 

@@ -3,10 +3,11 @@
 #include "engine/records.h"
 #include "engine/results_display.h"
 
-#include <string>
-#include <string_view>
+#include <cstdint>
 
 namespace quillon::engine {
+
+class NumberWriter;
 
 /// The powers that can be worked out from a dB value, by the numbers that they are asked for with.
 enum class PowerKind : std::uint8_t { AntennaPowerGain = 1, SystemPower, CoaxPowerLoss, ERP };
@@ -26,18 +27,20 @@ struct PowerSource
 /// Takes the dB value and the power of a kind from a system's records.
 [[nodiscard]] PowerSource SourceOf(PowerKind kind, const SystemData& data, const SystemResults& results);
 
-/// A power with the arithmetic that led to it.
-struct PowerResult
+/// The arithmetic of a power, in W.
+struct PowerStep
 {
-    float power; ///< W
-    std::string formula;
+    float power; ///< what it was worked out from
+    float coefficient;
+    float result;
 };
 
 /// Applies a coefficient to a power.
-/// @param separator  decimal separator of the formula's numbers.
 /// @throws ArithmeticError on overflow.
-[[nodiscard]] PowerResult PowerFromCoefficient(PowerKind kind, float coefficient, float power,
-                                               std::string_view separator);
+[[nodiscard]] PowerStep PowerFromCoefficient(PowerKind kind, float coefficient, float power);
+
+/// Writes the arithmetic out: "(74.13 * 3.162) = 234.399".
+void WritePowerFormula(NumberWriter& text, PowerKind kind, const PowerStep& step);
 
 /// The label that carries a kind's formula. The ERP's goes with the feed-point power, as given.
 [[nodiscard]] ResultLabel FormulaLabel(PowerKind kind) noexcept;

@@ -1,12 +1,14 @@
 #include "engine/power_formula.h"
 
 #include "engine/arithmetic_error.h"
+#include "engine/number_writer.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <limits>
 #include <stdexcept>
+#include <string>
 
 namespace quillon::engine {
 namespace {
@@ -83,37 +85,45 @@ TEST_F(PowerSourceTest, OnlyTheSystemGainIsNegated)
     Expect(PowerKind::ERP, -0.1F, 74.13F, false);
 }
 
+std::string FormulaText(PowerKind kind, const PowerStep& step, const char* separator = ".")
+{
+    NumberWriter text(separator);
+    WritePowerFormula(text, kind, step);
+    return std::string(text.Text());
+}
+
 TEST(PowerFromCoefficient, AntennaPowerGainIsWhatTheAntennaAdds)
 {
-    const PowerResult result = PowerFromCoefficient(PowerKind::AntennaPowerGain, 3.162F, 74.13F, ".");
-    EXPECT_EQ(result.power, 160.26904F) << "not rounded";
-    EXPECT_EQ(result.formula, "(74.13 * 3.162) - 74.13 = 160.269");
+    const PowerStep step = PowerFromCoefficient(PowerKind::AntennaPowerGain, 3.162F, 74.13F);
+    EXPECT_EQ(step.result, 160.26904F) << "not rounded";
+    EXPECT_EQ(FormulaText(PowerKind::AntennaPowerGain, step), "(74.13 * 3.162) - 74.13 = 160.269");
 }
 
 TEST(PowerFromCoefficient, SystemPowerIsRoundedToHundredths)
 {
-    const PowerResult result = PowerFromCoefficient(PowerKind::SystemPower, 2.344F, 1.234F, ".");
-    EXPECT_EQ(result.power, 2.89F) << "2.892496";
-    EXPECT_EQ(result.formula, "1.234 * 2.344 = 2.89");
+    const PowerStep step = PowerFromCoefficient(PowerKind::SystemPower, 2.344F, 1.234F);
+    EXPECT_EQ(step.result, 2.89F) << "2.892496";
+    EXPECT_EQ(FormulaText(PowerKind::SystemPower, step), "1.234 * 2.344 = 2.89");
 }
 
 TEST(PowerFromCoefficient, CoaxPowerLossIsRoundedToHundredths)
 {
-    const PowerResult result = PowerFromCoefficient(PowerKind::CoaxPowerLoss, 0.5249F, 1234.5F, ".");
-    EXPECT_EQ(result.power, 586.51F) << "1234.5 - 647.98905";
-    EXPECT_EQ(result.formula, "1234.5 - (1234.5 * 0.5249) = 586.51");
+    const PowerStep step = PowerFromCoefficient(PowerKind::CoaxPowerLoss, 0.5249F, 1234.5F);
+    EXPECT_EQ(step.result, 586.51F) << "1234.5 - 647.98905";
+    EXPECT_EQ(FormulaText(PowerKind::CoaxPowerLoss, step), "1234.5 - (1234.5 * 0.5249) = 586.51");
 }
 
 TEST(PowerFromCoefficient, ERPIsNotRounded)
 {
-    const PowerResult result = PowerFromCoefficient(PowerKind::ERP, 3.162F, 74.13F, ".");
-    EXPECT_EQ(result.power, 234.39905F);
-    EXPECT_EQ(result.formula, "(74.13 * 3.162) = 234.399");
+    const PowerStep step = PowerFromCoefficient(PowerKind::ERP, 3.162F, 74.13F);
+    EXPECT_EQ(step.result, 234.39905F);
+    EXPECT_EQ(FormulaText(PowerKind::ERP, step), "(74.13 * 3.162) = 234.399");
 }
 
 TEST(PowerFromCoefficient, FormulasUseTheSeparatorGiven)
 {
-    EXPECT_EQ(PowerFromCoefficient(PowerKind::ERP, 3.162F, 74.13F, ",").formula, "(74,13 * 3,162) = 234,399");
+    const PowerStep step = PowerFromCoefficient(PowerKind::ERP, 3.162F, 74.13F);
+    EXPECT_EQ(FormulaText(PowerKind::ERP, step, ","), "(74,13 * 3,162) = 234,399");
 }
 
 TEST(PowerFromCoefficient, OverflowThrows)
@@ -121,7 +131,7 @@ TEST(PowerFromCoefficient, OverflowThrows)
     constexpr float kLargest = std::numeric_limits<float>::max();
     for (const PowerKind kind :
          {PowerKind::AntennaPowerGain, PowerKind::SystemPower, PowerKind::CoaxPowerLoss, PowerKind::ERP}) {
-        EXPECT_THROW((void)PowerFromCoefficient(kind, 10.0F, kLargest, "."), ArithmeticError);
+        EXPECT_THROW((void)PowerFromCoefficient(kind, 10.0F, kLargest), ArithmeticError);
     }
 }
 
