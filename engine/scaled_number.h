@@ -67,7 +67,9 @@ inline constexpr std::array kPowersOfTen{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7,
     const int powerOfTwo = static_cast<int>((std::bit_cast<std::uint32_t>(value) >> 23U) & 0xFFU) - kBias;
     auto places = static_cast<std::size_t>(5 - ((powerOfTwo * 1233) >> 12));
     places += static_cast<std::size_t>(magnitude * kPowersOfTen[places] < 1e6);
-    const auto count = static_cast<std::int32_t>(magnitude * kPowersOfTen[places] + 0.5);
+    const double scaled = magnitude * kPowersOfTen[places];
+    const auto whole = static_cast<std::int32_t>(scaled);
+    const std::int32_t count = whole + static_cast<std::int32_t>(scaled - whole >= 0.5);
     return {value < 0 ? -count : count, static_cast<std::int32_t>(places)};
 }
 

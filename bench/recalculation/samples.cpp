@@ -6,7 +6,7 @@ namespace quillon::bench {
 
 Samples MakeSamples()
 {
-    // NOLINTNEXTLINE(cert-msc51-cpp): the same inputs at each run are wanted.
+    // NOLINTNEXTLINE(bugprone-random-generator-seed,cert-msc51-cpp): the same inputs at each run are wanted.
     std::mt19937 chance(20261122);
     const auto upTo = [&chance](unsigned count) { return static_cast<float>(chance() % count); };
     Samples samples{};

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstddef>
-#include <string_view>
 
 namespace quillon::bench {
 
@@ -20,7 +19,7 @@ struct Sample
 };
 
 /// Unit of every sample's antenna gain.
-inline constexpr std::string_view kGainType = "dBi";
+inline constexpr const char* kGainType = "dBi";
 
 inline constexpr std::size_t kSampleCount = 1024;
 using Samples = std::array<Sample, kSampleCount>;

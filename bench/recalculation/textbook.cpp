@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <string_view>
 
 namespace quillon::bench {
 namespace {
@@ -93,7 +94,7 @@ void ShowTextbookResults(const Sample& sample, engine::ResultsDisplay& display)
     const double power = sample.xmitPower;
     print.Result(ResultLabel::CoaxDBLoss, "%.2f", is.coaxDB);
     print.Result(ResultLabel::AntennaGain, "%.2f", sample.antennaGain);
-    print.Formula(ResultLabel::AntennaGain, "Antenna Gain Figure is in %s so 2.14 dB subtracted", kGainType.data());
+    print.Formula(ResultLabel::AntennaGain, "Antenna Gain Figure is in %s so 2.14 dB subtracted", kGainType);
     print.Result(ResultLabel::SystemGain, "%.7g", is.systemGain);
     print.Formula(ResultLabel::SystemGain, "%.7g + ((%.7g + %.7g) * -1) = %.7g", double{sample.antennaGain}, is.coaxDB,
                   double{sample.connectorLoss}, is.systemGain);
