@@ -1,5 +1,8 @@
 #include "app/unwritable_folder.h"
 
+#include <QCoreApplication>
+#include <QString>
+
 #include <cerrno>
 #include <string>
 
@@ -18,10 +21,11 @@ void TellUnwritableFolder(store::FileCalls& calls, const store::ProgramFolder& f
 {
     for (const std::filesystem::path& place : {folder.Path(), folder.AntennaFolder()}) {
         if (IsForbidden(calls, place)) {
-            notifier.Inform("The folder " + place.string() +
-                                " cannot be written. Quillon computes and prints all the same, but it cannot save "
-                                "systems or antennas there.",
-                            "Folder Cannot Be Written");
+            const QString text = QCoreApplication::translate(
+                "UnwritableFolder", "The folder %1 cannot be written. Quillon computes and prints all the same, but it "
+                                    "cannot save systems or antennas there.");
+            const QString title = QCoreApplication::translate("UnwritableFolder", "Folder Cannot Be Written");
+            notifier.Inform(text.arg(QString::fromStdString(place.string())).toStdString(), title.toStdString());
             return;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "app/dialogs.h"
 #include "store/catalogue.h"
+#include "tests/store/failing_calls.h"
 #include "tests/support/find_widget.h"
 #include "tests/support/recording_hooks.h"
 #include "tests/support/recording_notifier.h"
@@ -31,9 +32,11 @@ namespace quillon {
 class DialogsTest : public ::testing::Test
 {
 protected:
-    DialogsTest()
+    /// @param fill  puts catalogues into the program folder
+    explicit DialogsTest(void (*fill)(support::TempFolder&) = [](support::TempFolder&) {})
     {
         m_files.Put("QuillonSystems.dat", "");
+        fill(m_files);
         m_window.Load();
         m_window.show();
     }
@@ -122,6 +125,11 @@ protected:
 
     [[nodiscard]] const support::RecordingNotifier& Notifier() const { return m_notifier; }
 
+    test::FakePrinters& Printers() { return m_printers; }
+
+    /// What all dialogs read and write through.
+    store::FailingCalls& Calls() { return m_calls; }
+
 private:
     QString m_question;
     support::TempFolder m_files;
@@ -129,7 +137,8 @@ private:
     engine::AntennaSystems m_systems;
     support::RecordingHooks m_hooks;
     support::RecordingNotifier m_notifier;
-    std::shared_ptr<store::ProfileStore> m_store = std::make_shared<store::ProfileStore>();
+    store::FailingCalls m_calls;
+    std::shared_ptr<store::ProfileStore> m_store = std::make_shared<store::ProfileStore>(m_calls);
     store::Catalogue m_catalogue{m_folder, m_store};
     test::FakePrinters m_printers;
     ui::Quillon m_window{{m_systems, m_hooks, m_notifier, m_catalogue}};

@@ -26,12 +26,11 @@ namespace quillon::ui {
 namespace {
 
 const QString kTitle = QStringLiteral("Manage Antenna Database");
-const QString kNotWritten = QStringLiteral("The file of “%1” could not be written.");
-const QString kIndexNotWritten =
-    QStringLiteral("The file of “%1” is written, but the index of the antenna files could not be.");
-const QString kNoMaker = QStringLiteral("“%1” is the name of something else than an antenna file.");
-const QString kNotListed =
-    QStringLiteral("“%1” is written to its file, but the list of models is full and cannot show it.");
+
+QString NotWritten(const QString& maker)
+{
+    return EditAntennas::tr("The file of “%1” could not be written.").arg(maker);
+}
 
 /// Chooses the entry that equals a text, letter case aside when need be. @return whether there is one
 bool ChooseEqual(CatalogueListBox& list, const QString& text)
@@ -193,7 +192,7 @@ void EditAntennas::ShowModel()
     }
     // Fields without bands must not be saved: that would take away those that the model has.
     m_fields->Clear();
-    Tell(NotRead(Maker()) + u'.');
+    Tell(tr("The file of “%1” could not be read.").arg(MakerText(Maker())));
 }
 
 bool EditAntennas::UpdateIndex()
@@ -201,7 +200,8 @@ bool EditAntennas::UpdateIndex()
     const bool isWritten = m_files.UpdateIndex(Maker(), m_clock.today());
     ShowFileInfo();
     if (!isWritten) {
-        Tell(kIndexNotWritten.arg(m_selection->Makers().currentText()));
+        Tell(tr("The file of “%1” is written, but the index of the antenna files could not be.")
+                 .arg(m_selection->Makers().currentText()));
     }
     return isWritten;
 }
@@ -232,7 +232,7 @@ void EditAntennas::txtAntennaBrand_Enter()
 {
     const QString typed = m_selection->Brand().text();
     const std::string brand = typed.toStdString();
-    const TypedName name{QStringLiteral("antenna brand"), typed, store::kLongestMakerName};
+    const TypedName name{tr("The antenna brand"), typed, store::kLongestMakerName};
     if (const QString refusal = NameRefusal(name, store::MakerNameFault(brand)); !refusal.isEmpty()) {
         Tell(refusal);
         return;
@@ -243,13 +243,13 @@ void EditAntennas::txtAntennaBrand_Enter()
         return;
     }
     if (!m_files.CreateBrandFile(brand)) {
-        Tell(kNotWritten.arg(typed));
+        Tell(NotWritten(typed));
         return;
     }
     m_window.LoadAntennaMakers();
     LoadMakers();
     if (!ChooseEqual(m_selection->Makers(), typed)) {
-        Tell(kNoMaker.arg(typed));
+        Tell(tr("“%1” is the name of something else than an antenna file.").arg(typed));
         return;
     }
     m_selection->Brand().Empty();
@@ -259,7 +259,7 @@ void EditAntennas::txtAntennaBrand_Enter()
 void EditAntennas::txtAntennaModel_Enter()
 {
     const QString typed = m_selection->Model().text();
-    const TypedName name{QStringLiteral("antenna model"), typed, store::kLongestEntry};
+    const TypedName name{tr("The antenna model"), typed, store::kLongestEntry};
     if (const QString refusal = NameRefusal(name, store::EntryNameFault(typed.toStdString())); !refusal.isEmpty()) {
         Tell(refusal);
         return;
@@ -272,7 +272,7 @@ void EditAntennas::txtAntennaModel_Enter()
         return;
     }
     if (!m_files.AddModel(Maker(), model, isFound ? store::IfModelFound::Replace : store::IfModelFound::Refuse)) {
-        Tell(kNotWritten.arg(m_selection->Makers().currentText()));
+        Tell(NotWritten(m_selection->Makers().currentText()));
         return;
     }
     m_selection->Model().Empty();
@@ -280,7 +280,7 @@ void EditAntennas::txtAntennaModel_Enter()
     LoadModels();
     m_window.ReloadAntennas(Maker());
     if (!ChooseEqual(m_selection->Models(), typed)) {
-        Tell(kNotListed.arg(typed));
+        Tell(tr("“%1” is written to its file, but the list of models is full and cannot show it.").arg(typed));
     }
     m_selection->Models().setFocus();
 }
@@ -304,7 +304,7 @@ void EditAntennas::cmdSave_Click()
     const bool isWritten = m_files.SaveChanges(Maker(), Model(), std::get<store::ModelFigures>(figures));
     m_window.ReloadAntennas(Maker());
     if (!isWritten) {
-        Tell(kNotWritten.arg(m_selection->Makers().currentText()));
+        Tell(NotWritten(m_selection->Makers().currentText()));
         return;
     }
     if (!UpdateIndex()) {
@@ -312,7 +312,7 @@ void EditAntennas::cmdSave_Click()
     }
     m_selection->Models().setFocus();
     ShowModel();
-    m_status->Show(QStringLiteral("Changes saved."));
+    m_status->Show(tr("Changes saved."));
 }
 
 void EditAntennas::keyPressEvent(QKeyEvent* event)

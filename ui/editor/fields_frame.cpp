@@ -70,7 +70,7 @@ void FieldsFrame::Name()
     for (int index = 1; const Band& band : m_bands) {
         band.covered->setObjectName(IndexedName("chkBands", index));
         band.gain->setObjectName(IndexedName("txtGainFigure", index));
-        band.gain->setAccessibleName(QStringLiteral("Gain Figure, %1").arg(band.covered->text()));
+        band.gain->setAccessibleName(tr("Gain Figure, %1").arg(band.covered->text()));
         ++index;
     }
 }
@@ -152,7 +152,7 @@ std::variant<store::ModelFigures, FieldsFrame::Fault> FieldsFrame::Figures() con
             continue;
         }
         if (!tenths.value) {
-            return Fault{QStringLiteral("%1: ").arg(covered->text()) + tenths.problem + u'.', gain};
+            return Fault{tr("%1: %2.").arg(covered->text(), tenths.problem), gain};
         }
         figures.GainTenths.at(place) = tenths.value;
     }

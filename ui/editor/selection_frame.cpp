@@ -136,7 +136,7 @@ void SelectionFrame::ShowFileInfo(const store::IndexEntry& entry)
         const QString value = SectionText(*values.at(row));
         m_fileInfo.at(row)->setText(value);
         m_fileInfo.at(row)->setAccessibleName(
-            QStringLiteral("%1: %2").arg(QString::fromUtf8(kFileInfoCaptions.at(row)).simplified(), value));
+            tr("%1: %2").arg(QString::fromUtf8(kFileInfoCaptions.at(row)).simplified(), value));
     }
 }
 

@@ -137,8 +137,8 @@ void CoaxFrame::TakeCable()
     Work().RefreshData(System());
 
     m_line->Held(1)->setText(type);
-    ShowFigure(0, m_figures.Spec1, QStringLiteral("%1 in"));
-    ShowFigure(1, m_figures.Spec2, QStringLiteral("%1 Ω"));
+    ShowFigure(0, m_figures.Spec1, tr("%1 in"));
+    ShowFigure(1, m_figures.Spec2, tr("%1 Ω"));
     m_port.ShowCoaxStatus(Work().Shortest(Data().CoaxLoss));
 }
 

@@ -9,7 +9,4 @@ inline constexpr QStringView kProductPage = u"https://quillon.example/";
 inline constexpr QStringView kMakerPage = u"https://tarvel.example/";
 inline constexpr QStringView kMakerMail = u"quillon@tarvel.example";
 
-/// How a mail to the maker begins.
-inline constexpr QStringView kGreeting = u"Hello,";
-
 } // namespace quillon::ui

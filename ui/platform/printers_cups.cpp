@@ -4,6 +4,7 @@
 #include "ui/platform/printers_job.h"
 #include "ui/platform/printers_page.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QScopeGuard>
@@ -33,12 +34,13 @@ auto AskAside(const Question& question)
 
 QString SourceOf(const QString& printer)
 {
-    return printer.isEmpty() ? QStringLiteral("CUPS") : QStringLiteral("CUPS printer ") + printer;
+    return printer.isEmpty() ? QStringLiteral("CUPS")
+                             : QCoreApplication::translate("CupsPrinters", "CUPS printer %1").arg(printer);
 }
 
 QString SourceOf(const QString& printer, int job)
 {
-    return QStringLiteral("CUPS job %1 of printer ").arg(job) + printer;
+    return QCoreApplication::translate("CupsPrinters", "CUPS job %1 of printer %2").arg(QString::number(job), printer);
 }
 
 IppMessage Describe(IppConnection& service, const QString& printer)

@@ -46,7 +46,7 @@ PrintOut::PrintOut(PrintSystemReport& report, Printers& printers, engine::Notifi
 void PrintOut::Name()
 {
     setObjectName(QStringLiteral("PrintOut"));
-    setWindowTitle(QStringLiteral("Print Report"));
+    setWindowTitle(tr("Print Report"));
     m_printerList->setObjectName(QStringLiteral("cmbPrinter"));
     m_fonts->setObjectName(QStringLiteral("cmbFonts"));
     m_notes->setObjectName(QStringLiteral("txtNotes"));

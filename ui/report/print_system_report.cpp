@@ -199,9 +199,9 @@ void PrintSystemReport::DoComparison()
         }
     }
     if (!failed.isEmpty()) {
-        const QString text = QStringLiteral("%1: the values are too large to be compared. The report leaves this row "
-                                            "of the comparison empty.")
-                                 .arg(failed.join(QStringLiteral(", ")));
+        const QString text =
+            tr("%1: the values are too large to be compared. The report leaves this row of the comparison empty.")
+                .arg(failed.join(QStringLiteral(", ")));
         m_notifier.Inform(text.toStdString(), "Antenna System Comparison Report");
     }
 }

@@ -44,12 +44,12 @@ About::About(ProgramInfo program, SystemVersionCall ask, Shell& shell, QWidget* 
     , m_mail(new LinkLabel(this))
     , m_comments(new NoticeLabel(Tone::Normal, kColumn, this))
     , m_copyright(new QuietLabel(Tone::Quiet, 1.0, this))
-    , m_sendMail(new QPushButton(QStringLiteral("&Send E-Mail"), this))
-    , m_close(new QPushButton(QStringLiteral("&Close"), this))
+    , m_sendMail(new QPushButton(tr("&Send E-Mail"), this))
+    , m_close(new QPushButton(tr("&Close"), this))
 {
     NameControls();
     m_mail->setText(kMakerMail.toString());
-    m_comments->setText(QStringLiteral("Comments, corrections and figures for the catalogues are welcome."));
+    m_comments->setText(tr("Comments, corrections and figures for the catalogues are welcome."));
     m_copyright->setText(kMakersNotice.toString());
     LayOut();
 
@@ -61,7 +61,7 @@ About::About(ProgramInfo program, SystemVersionCall ask, Shell& shell, QWidget* 
 void About::NameControls()
 {
     setObjectName(QStringLiteral("About"));
-    setWindowTitle(QStringLiteral("About %1").arg(m_program.title));
+    setWindowTitle(tr("About %1").arg(m_program.title));
     m_version->setObjectName(QStringLiteral("lblVersion"));
     m_appInfo->setObjectName(QStringLiteral("lblAppInfo"));
     m_path->setObjectName(QStringLiteral("lblPath"));

@@ -73,7 +73,7 @@ QUrl CommentsAddress(const ProgramInfo& program, const SystemInfo& system)
 {
     MailFields fields;
     fields.Add(QStringLiteral("subject"), QStringLiteral("Comments on ") + Subject(program, system));
-    fields.Add(QStringLiteral("Body"), kGreeting.toString());
+    fields.Add(QStringLiteral("Body"), QCoreApplication::translate("CommentsAddress", "Hello,"));
     return fields.ToMaker();
 }
 

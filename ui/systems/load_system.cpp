@@ -20,15 +20,15 @@ QString DamageText(const QString& name, const store::DamagedValue& damage)
     const QString value = ShownText(damage.value);
     switch (damage.fault) {
     case Fault::NoNumber:
-        return QStringLiteral("“%1” cannot be loaded: its %2 is “%3”, which is not a number.").arg(name, key, value);
+        return LoadSystem::tr("“%1” cannot be loaded: its %2 is “%3”, which is not a number.").arg(name, key, value);
     case Fault::TooLarge:
-        return QStringLiteral("“%1” cannot be loaded: its %2 is “%3”, which is too large.").arg(name, key, value);
+        return LoadSystem::tr("“%1” cannot be loaded: its %2 is “%3”, which is too large.").arg(name, key, value);
     case Fault::NotComputable:
-        return QStringLiteral("“%1” cannot be loaded: the figures of its %2 cannot be computed with.").arg(name, key);
+        return LoadSystem::tr("“%1” cannot be loaded: the figures of its %2 cannot be computed with.").arg(name, key);
     case Fault::Missing:
         break;
     }
-    return QStringLiteral("“%1” cannot be loaded: its %2 is missing.").arg(name, key);
+    return LoadSystem::tr("“%1” cannot be loaded: its %2 is missing.").arg(name, key);
 }
 
 } // namespace

@@ -46,7 +46,7 @@ ShowTable::ShowTable(QWidget* parent)
     setObjectName(QStringLiteral("ShowTable"));
     setWindowTitle(QStringLiteral("dB Calculation Table"));
     m_grid->setObjectName(QStringLiteral("dBCalcTable"));
-    m_grid->setAccessibleName(QStringLiteral("dB values with their gain and loss coefficients"));
+    m_grid->setAccessibleName(tr("dB values with their gain and loss coefficients"));
     Name(*m_pageUp, QStringLiteral("cmdPageUp"));
     Name(*m_pageDown, QStringLiteral("cmdPageDn"));
     Name(*m_close, QStringLiteral("cmdClose"));

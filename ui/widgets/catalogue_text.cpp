@@ -2,6 +2,7 @@
 
 #include "store/code_page.h"
 
+#include <QCoreApplication>
 #include <QStringDecoder>
 
 namespace quillon::ui {
@@ -39,7 +40,7 @@ QString MakerText(std::string_view bytes)
 
 QString NotRead(std::string_view maker)
 {
-    return QStringLiteral("The file of “%1” could not be read").arg(MakerText(maker));
+    return QCoreApplication::translate("CatalogueText", "The file of “%1” could not be read").arg(MakerText(maker));
 }
 
 std::string RecordText(const QString& text)

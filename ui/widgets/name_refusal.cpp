@@ -1,29 +1,34 @@
 #include "ui/widgets/name_refusal.h"
 
+#include <QCoreApplication>
+
 namespace quillon::ui {
 
 namespace {
 
-const char* Reason(store::NameFault fault, bool hasBlanksAround)
+/// %1 stands for the name's subject, %2 for how many characters there is room for.
+const char* Sentence(store::NameFault fault, bool hasBlanksAround)
 {
     switch (fault) {
     case store::NameFault::Empty:
-        return "is empty.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 is empty.");
     case store::NameFault::ForbiddenCharacter:
-        return "holds “/”, “\\” or “|”, which cannot be part of a file's name.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 holds “/”, “\\” or “|”, which cannot be part of a file's name.");
     case store::NameFault::ControlCharacter:
-        return "holds a control character.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 holds a control character.");
     case store::NameFault::FolderName:
-        return "is the name of a folder.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 is the name of a folder.");
     case store::NameFault::BadEnding:
-        return "ends in a blank or a point, which the name of a file cannot.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 ends in a blank or a point, which the name of a file cannot.");
     case store::NameFault::TooLong:
-        return "is longer than %1 characters.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 is longer than %2 characters.");
     case store::NameFault::NotInCodePage:
-        return "holds a character that the data files cannot hold.";
+        return QT_TRANSLATE_NOOP("NameRefusal", "%1 holds a character that the data files cannot hold.");
     case store::NameFault::NotReadBack:
-        return hasBlanksAround ? "begins or ends with a blank, which would be lost in the data file."
-                               : "stands in quotes, which would be lost in the data file.";
+        return hasBlanksAround
+                   ? QT_TRANSLATE_NOOP("NameRefusal",
+                                       "%1 begins or ends with a blank, which would be lost in the data file.")
+                   : QT_TRANSLATE_NOOP("NameRefusal", "%1 stands in quotes, which would be lost in the data file.");
     case store::NameFault::None:
         break;
     }
@@ -37,11 +42,10 @@ QString NameRefusal(const TypedName& name, store::NameFault fault)
     if (fault == store::NameFault::None) {
         return {};
     }
-    QString reason = QString::fromUtf8(Reason(fault, name.text.trimmed() != name.text));
-    if (fault == store::NameFault::TooLong) {
-        reason = reason.arg(name.longest);
-    }
-    return QStringLiteral("The %1 %2").arg(name.kind, reason);
+    const bool hasBlanksAround = name.text.trimmed() != name.text;
+    const QString sentence =
+        QCoreApplication::translate("NameRefusal", Sentence(fault, hasBlanksAround)).arg(name.subject);
+    return fault == store::NameFault::TooLong ? sentence.arg(name.longest) : sentence;
 }
 
 } // namespace quillon::ui

@@ -11,7 +11,7 @@ namespace quillon::ui {
 /// A name that a person typed: what it is for, and how many characters there is room for.
 struct TypedName
 {
-    QString kind; ///< "system name", as it stands in a sentence
+    QString subject; ///< "The system name", as a sentence begins
     QString text;
     std::size_t longest;
 };

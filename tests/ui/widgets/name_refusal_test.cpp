@@ -23,7 +23,7 @@ class NameRefusalRow : public ::testing::TestWithParam<Row>
 
 TEST_P(NameRefusalRow, SaysWhy)
 {
-    const TypedName name{QStringLiteral("antenna brand"), QString::fromUtf8(GetParam().text), 25};
+    const TypedName name{QStringLiteral("The antenna brand"), QString::fromUtf8(GetParam().text), 25};
     EXPECT_EQ(NameRefusal(name, GetParam().fault).toStdString(), GetParam().told);
 }
 
