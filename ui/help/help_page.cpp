@@ -212,8 +212,7 @@ QString HelpPage::StyleSheet() const
         .arg(7 * unit)
         .arg(4 * unit)
         .arg(3 * unit)
-        .arg(colours.color(QPalette::Active, QPalette::Link).name(), HairlineColor(colours).name(),
-             Mixed(base, text, 0.06).name());
+        .arg(LinkColor(colours, QPalette::Base).name(), HairlineColor(colours).name(), Mixed(base, text, 0.06).name());
 }
 
 void HelpPage::Render()

@@ -18,9 +18,7 @@ QColor Active(const QPalette& palette, QPalette::ColorRole role)
     return palette.color(QPalette::Active, role);
 }
 
-/// Contrast that text has to have (WCAG 2.1, 1.4.3).
-constexpr double kReadable = 4.5;
-constexpr int kSteps = 10; ///< from one colour to another
+constexpr double kStep = 0.05; ///< of the way from one colour to another
 
 /// Relative luminance as WCAG 2.1 defines it, 0 to 1.
 double Luminance(const QColor& color)
@@ -31,13 +29,33 @@ double Luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+/// A colour on the way from one to another: a share of it, and more where that has too little contrast to a ground that
+/// it stands on.
+QColor Standing(const QColor& from, const QColor& to, double share, double contrast, const QList<QColor>& grounds)
+{
+    QColor color = Mixed(from, to, share);
+    for (int step = 1; share + step * kStep <= 1 + kStep / 2; ++step) {
+        if (std::ranges::all_of(grounds, [&](const QColor& ground) { return Contrast(color, ground) >= contrast; })) {
+            return color;
+        }
+        color = Mixed(from, to, std::min(share + step * kStep, 1.0));
+    }
+    return color;
+}
+
+/// What outlines and markers stand on.
+QList<QColor> WindowAndCard(const QPalette& palette)
+{
+    return {Active(palette, QPalette::Window), CardColor(palette)};
+}
+
+} // namespace
+
 double Contrast(const QColor& one, const QColor& other)
 {
     const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
-
-} // namespace
 
 int BaseUnit()
 {
@@ -87,22 +105,31 @@ QColor HairlineColor(const QPalette& palette)
 
 QColor OutlineColor(const QPalette& palette)
 {
-    return Mixed(Active(palette, QPalette::Window), Active(palette, QPalette::WindowText), 0.41);
+    return Standing(Active(palette, QPalette::Window), Active(palette, QPalette::WindowText), 0.41, kVisible,
+                    WindowAndCard(palette));
 }
 
 QColor EmptyMarkerColor(const QPalette& palette)
 {
-    return Mixed(Active(palette, QPalette::Window), Active(palette, QPalette::WindowText), 0.46);
+    return Standing(Active(palette, QPalette::Window), Active(palette, QPalette::WindowText), 0.46, kVisible,
+                    WindowAndCard(palette));
 }
 
 QColor FilledMarkerColor(const QPalette& palette)
 {
-    return Active(palette, QPalette::Highlight);
+    return Standing(Active(palette, QPalette::Highlight), Active(palette, QPalette::WindowText), 0, kVisible,
+                    WindowAndCard(palette));
+}
+
+QColor FocusColor(const QPalette& palette)
+{
+    return FilledMarkerColor(palette);
 }
 
 QColor QuietColor(const QPalette& palette)
 {
-    return Mixed(Active(palette, QPalette::WindowText), Active(palette, QPalette::Window), 0.30);
+    return Standing(Active(palette, QPalette::Window), Active(palette, QPalette::WindowText), 0.70, kReadable,
+                    WindowAndCard(palette) + QList{Active(palette, QPalette::Base), BetterColor(palette)});
 }
 
 QColor BetterColor(const QPalette& palette)
@@ -110,14 +137,24 @@ QColor BetterColor(const QPalette& palette)
     return Mixed(Active(palette, QPalette::Base), Active(palette, QPalette::Highlight), 0.13);
 }
 
-QColor LinkColor(const QPalette& palette)
+QColor LinkColor(const QPalette& palette, QPalette::ColorRole ground)
 {
-    const QColor link = Active(palette, QPalette::Link);
-    QColor color = link;
-    for (int step = 1; step <= kSteps && Contrast(color, Active(palette, QPalette::Window)) < kReadable; ++step) {
-        color = Mixed(link, Active(palette, QPalette::WindowText), 1.0 * step / kSteps);
+    return Standing(Active(palette, QPalette::Link), Active(palette, QPalette::WindowText), 0, kReadable,
+                    {Active(palette, ground)});
+}
+
+void MakeSelectionReadable(QPalette& palette)
+{
+    // Away from the colour of the window, from which a selection has to stand out as well.
+    const QColor text = IsDark(palette) ? Qt::black : Qt::white;
+    const QColor away = IsDark(palette) ? Qt::white : Qt::black;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor highlight = palette.color(group, QPalette::Highlight);
+        if (Contrast(palette.color(group, QPalette::HighlightedText), highlight) < kReadable) {
+            palette.setColor(group, QPalette::HighlightedText, text);
+            palette.setColor(group, QPalette::Highlight, Standing(highlight, away, 0, kReadable, {text}));
+        }
     }
-    return color;
 }
 
 QString PlainToolTip(const QString& text)

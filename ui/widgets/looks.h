@@ -18,17 +18,31 @@ namespace quillon::ui {
 /// A colour moved towards another one by a share of 0 to 1.
 [[nodiscard]] QColor Mixed(const QColor& color, const QColor& other, double share);
 
-/// Colours by palette role, the same whether or not the window has the focus.
+/// Contrast that text has to have against what is behind it, and a shape that tells something (WCAG 2.1, 1.4.3 and
+/// 1.4.11).
+constexpr double kReadable = 4.5;
+constexpr double kVisible = 3;
+
+/// Contrast of two colours as WCAG 2.1 defines it, 1 to 21.
+[[nodiscard]] double Contrast(const QColor& one, const QColor& other);
+
+/// Colours by palette role, the same whether or not the window has the focus. What has too little contrast to what it
+/// stands on in a palette moves towards the text's colour.
 [[nodiscard]] bool IsDark(const QPalette& palette);
 [[nodiscard]] QColor CardColor(const QPalette& palette);
 [[nodiscard]] QColor HairlineColor(const QPalette& palette);
 [[nodiscard]] QColor OutlineColor(const QPalette& palette);
 [[nodiscard]] QColor EmptyMarkerColor(const QPalette& palette);
 [[nodiscard]] QColor FilledMarkerColor(const QPalette& palette);
+/// Of the line around what has the keyboard.
+[[nodiscard]] QColor FocusColor(const QPalette& palette);
 [[nodiscard]] QColor QuietColor(const QPalette& palette);
 [[nodiscard]] QColor BetterColor(const QPalette& palette);
-/// The palette's own colour of links, moved towards the text's where it would be hard to read on the window.
-[[nodiscard]] QColor LinkColor(const QPalette& palette);
+/// The palette's own colour of links, moved towards the text's where it would be hard to read on its ground.
+[[nodiscard]] QColor LinkColor(const QPalette& palette, QPalette::ColorRole ground = QPalette::Window);
+
+/// Changes the colours of what is selected where its text would be hard to read, as it is in the built-in palettes.
+void MakeSelectionReadable(QPalette& palette);
 
 /// A text that comes from a file or a person, safe for places that would take it as rich text (tool tips).
 [[nodiscard]] QString PlainToolTip(const QString& text);

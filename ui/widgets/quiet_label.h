@@ -18,6 +18,8 @@ public:
     /// Elide when the layout gives less room than the text takes (else the label insists on its width).
     void SetElides(bool elides, Qt::TextElideMode where = Qt::ElideRight);
 
+    [[nodiscard]] bool Elides() const noexcept { return m_elides; }
+
     /// What is painted: the text, elided when it has to be.
     [[nodiscard]] QString ShownText() const;
     [[nodiscard]] QSize sizeHint() const override;

@@ -11,8 +11,15 @@ namespace quillon::ui {
 
 namespace {
 
-/// The built-in style draws outlines as the window's colour darkened by this much, in percent.
+/// The built-in style draws outlines as the window's colour darkened by this much, in percent. Those of check boxes it
+/// then makes lighter.
 constexpr int kStyleDarkens = 140;
+constexpr int kStyleLightensCheckBoxes = 110;
+constexpr int kStyleLightensFrames = 108;
+constexpr int kStyleDarkensOptions = 150;
+constexpr int kStyleDarkensFocus = 125;
+/// The line of a circle is thin and smoothed, so that hardly a pixel has all of its colour.
+constexpr double kSmoothed = 0.5;
 constexpr qsizetype kMostPalettes = 64;
 
 bool DrawsOutline(QStyle::PrimitiveElement element)
@@ -35,20 +42,69 @@ bool IsTextBox(QStyle::PrimitiveElement element)
     return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_PanelLineEdit;
 }
 
+/// Whether a style is the built-in one, or one that a desktop's settings put over it.
+bool IsOverBuiltIn(const QStyle* style)
+{
+    while (const auto* proxy = qobject_cast<const QProxyStyle*>(style)) {
+        style = proxy->baseStyle();
+    }
+    return style->name().compare(QStringLiteral("fusion"), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 void QuillonStyle::Install(QApplication& /*application*/)
 {
-    const QString name = QApplication::style()->name();
-    if (name.compare(QStringLiteral("fusion"), Qt::CaseInsensitive) == 0) {
-        QApplication::setStyle(new QuillonStyle(QStyleFactory::create(name)));
+    if (!IsOverBuiltIn(QApplication::style())) {
+        return;
     }
+    if (QStyle* below = QStyleFactory::create(QApplication::style()->name()); below != nullptr) {
+        QApplication::setStyle(new QuillonStyle(below));
+    }
+}
+
+void QuillonStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    MakeSelectionReadable(palette);
 }
 
 int QuillonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const
 {
     return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QColor QuillonStyle::WindowFor(const QPalette& palette, Edge edge)
+{
+    switch (edge) {
+    case Edge::CheckBox:
+        return OutlineColor(palette).darker(kStyleLightensCheckBoxes).lighter(kStyleDarkens);
+    case Edge::Option:
+        return Mixed(OutlineColor(palette), palette.color(QPalette::Active, QPalette::WindowText), kSmoothed)
+            .lighter(kStyleDarkensOptions);
+    case Edge::Focus:
+        return FocusColor(palette).darker(kStyleLightensFrames).lighter(kStyleDarkens);
+    case Edge::Hairline:
+        return HairlineColor(palette).lighter(kStyleDarkens);
+    default:
+        return OutlineColor(palette).lighter(kStyleDarkens);
+    }
+}
+
+QuillonStyle::Edge QuillonStyle::EdgeOf(PrimitiveElement element, const QStyleOption& option)
+{
+    switch (element) {
+    case PE_IndicatorCheckBox:
+        return Edge::CheckBox;
+    case PE_IndicatorRadioButton:
+        return Edge::Option;
+    case PE_Frame:
+        // The style does not mark the frame of a document or a table that has the keyboard.
+        return option.state.testFlag(State_HasFocus) ? Edge::Focus : Edge::Outline;
+    default:
+        return IsTextBox(element) && option.state.testFlag(State_ReadOnly) ? Edge::Hairline : Edge::Outline;
+    }
 }
 
 QPalette QuillonStyle::Treated(const QPalette& palette, Edge edge) const
@@ -60,10 +116,12 @@ QPalette QuillonStyle::Treated(const QPalette& palette, Edge edge) const
         if (m_treated.size() >= kMostPalettes) {
             m_treated.clear();
         }
-        const QColor line = edge == Edge::Hairline ? HairlineColor(palette) : OutlineColor(palette);
         QPalette made = palette;
         made.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Disabled, QPalette::Window));
-        made.setColor(QPalette::Window, line.lighter(kStyleDarkens));
+        made.setColor(QPalette::Window, WindowFor(palette, edge));
+        // A light colour the style evens out, so that in a light palette the darker one is better.
+        const QColor focus = FocusColor(palette);
+        made.setColor(QPalette::Highlight, IsDark(palette) ? focus.lighter(kStyleDarkensFocus) : focus);
         found = m_treated.insert(key, made);
     }
     QPalette treated = *found;
@@ -81,8 +139,7 @@ void QuillonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         return;
     }
     const QScopedValueRollback nested(m_depth, m_depth + 1);
-    const bool follows = IsTextBox(element) && option->state.testFlag(State_ReadOnly);
-    const QPalette palette = Treated(option->palette, follows ? Edge::Hairline : Edge::Outline);
+    const QPalette palette = Treated(option->palette, EdgeOf(element, *option));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option)) {
         QStyleOptionFrame treated(*frame);
         treated.palette = palette;

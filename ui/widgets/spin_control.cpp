@@ -242,7 +242,7 @@ void SpinControl::paintEvent(QPaintEvent* /*event*/)
     PaintChevrons(painter, Arrow::Down);
     if (hasFocus()) {
         constexpr double half = kFocusWidth / 2;
-        painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), kFocusWidth));
+        painter.setPen(QPen(FocusColor(palette()), kFocusWidth));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), kPanelRadius, kPanelRadius);
     }

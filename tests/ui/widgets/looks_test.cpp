@@ -78,11 +78,12 @@ TEST(Colors, LightPalette)
 {
     EXPECT_EQ(CardColor(Light()), QColor(218, 218, 218));        // 200 + 0.45 * 40
     EXPECT_EQ(HairlineColor(Light()), QColor(164, 164, 164));    // 200 - 0.18 * 200
-    EXPECT_EQ(OutlineColor(Light()), QColor(118, 118, 118));     // 200 - 0.41 * 200
+    EXPECT_EQ(OutlineColor(Light()), QColor(108, 108, 108));     // 0.41 gives 2.7 to 1 only: 200 - 0.46 * 200
     EXPECT_EQ(EmptyMarkerColor(Light()), QColor(108, 108, 108)); // 200 - 0.46 * 200
     EXPECT_EQ(QuietColor(Light()), QColor(60, 60, 60));          // 0 + 0.30 * 200
     EXPECT_EQ(BetterColor(Light()), QColor(214, 227, 240));      // 240 + 0.13 * (40 - 240), (140 - 240), 0
-    EXPECT_EQ(FilledMarkerColor(Light()), QColor(40, 140, 240));
+    EXPECT_EQ(FilledMarkerColor(Light()), QColor(32, 112, 192)); // 2.1 to 1; 0.20 of the way to black gives 3.03
+    EXPECT_EQ(FocusColor(Light()), FilledMarkerColor(Light()));
 }
 
 TEST(Colors, DarkPalette)
@@ -93,6 +94,54 @@ TEST(Colors, DarkPalette)
     EXPECT_EQ(EmptyMarkerColor(Dark()), QColor(142, 142, 142)); // 50 + 0.46 * 200
     EXPECT_EQ(QuietColor(Dark()), QColor(190, 190, 190));       // 250 - 0.30 * 200
     EXPECT_EQ(BetterColor(Dark()), QColor(33, 46, 20));         // 20 + 0.13 * 100, 20 + 0.13 * 200, 0
+    EXPECT_EQ(FilledMarkerColor(Dark()), QColor(120, 220, 20)); // 6.6 to 1 on a card
+}
+
+TEST(Colors, ContrastIsThatOfTheGuidelines)
+{
+    EXPECT_DOUBLE_EQ(Contrast(Qt::black, Qt::white), 21);
+    EXPECT_DOUBLE_EQ(Contrast(Qt::red, Qt::red), 1);
+    EXPECT_NEAR(Contrast(Qt::red, Qt::white), 3.998, 0.001); // 1.05 / (0.2126 + 0.05)
+    EXPECT_EQ(Contrast(Qt::white, Qt::red), Contrast(Qt::red, Qt::white));
+}
+
+TEST(Colors, QuietTextThatIsHardToReadIsLessQuiet)
+{
+    QPalette palette = Light();
+    palette.setColor(QPalette::WindowText, QColor(80, 80, 80)); // 4.9 to 1
+    EXPECT_GE(Contrast(QuietColor(palette), QColor(200, 200, 200)), kReadable);
+}
+
+/// A palette as it comes out of MakeSelectionReadable.
+QPalette Readable(QPalette palette, const QColor& highlight, const QColor& text)
+{
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText, text);
+    MakeSelectionReadable(palette);
+    return palette;
+}
+
+TEST(Selection, ThatIsReadableStaysAsItIs)
+{
+    const QPalette palette = Readable(Light(), Qt::darkBlue, Qt::yellow);
+    EXPECT_EQ(palette.color(QPalette::Highlight), QColor(Qt::darkBlue));
+    EXPECT_EQ(palette.color(QPalette::HighlightedText), QColor(Qt::yellow));
+}
+
+TEST(Selection, ThatIsHardToReadGetsDarkerInALightPalette)
+{
+    const QPalette palette = Readable(Light(), QColor(48, 140, 198), Qt::white);
+    // White has 3.7 to 1 on it, 4.4 after 0.10 of the way to black and 4.9 after 0.15.
+    EXPECT_EQ(palette.color(QPalette::Highlight), QColor(41, 119, 168));
+    EXPECT_EQ(palette.color(QPalette::HighlightedText), QColor(Qt::white));
+    EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::Highlight), palette.color(QPalette::Highlight));
+}
+
+TEST(Selection, ThatIsHardToReadGetsDarkTextInADarkPalette)
+{
+    const QPalette palette = Readable(Dark(), QColor(48, 140, 198), QColor(240, 240, 240));
+    EXPECT_EQ(palette.color(QPalette::Highlight), QColor(48, 140, 198)) << "black has 5.7 to 1 on it";
+    EXPECT_EQ(palette.color(QPalette::HighlightedText), QColor(Qt::black));
 }
 
 TEST(Colors, ALinkThatIsReadableHasThePalettesColour)
@@ -113,12 +162,20 @@ TEST(Colors, ALinkThatIsHardToReadMovesTowardsTheText)
     EXPECT_EQ(LinkColor(palette), QColor(60, 60, 60)) << "no more than the text has";
 }
 
+TEST(Colors, ALinkIsMeasuredAgainstTheGroundThatItStandsOn)
+{
+    QPalette palette = Dark();
+    palette.setColor(QPalette::Link, QColor(0, 0, 200));
+    palette.setColor(QPalette::Base, Qt::white);
+    EXPECT_EQ(LinkColor(palette, QPalette::Base), QColor(0, 0, 200));
+}
+
 TEST(Colors, StayWhenTheWindowLosesTheFocus)
 {
     QPalette palette = Light();
     palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::gray);
     palette.setCurrentColorGroup(QPalette::Inactive);
-    EXPECT_EQ(FilledMarkerColor(palette), QColor(40, 140, 240));
+    EXPECT_EQ(FilledMarkerColor(palette), FilledMarkerColor(Light()));
     EXPECT_EQ(BetterColor(palette), QColor(214, 227, 240));
 }
 

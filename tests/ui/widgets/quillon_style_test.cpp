@@ -8,27 +8,19 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPixmap>
 #include <QPixmapCache>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStyleFactory>
+#include <QStyleOptionFrame>
 
 #include <memory>
 
 namespace quillon::ui {
 namespace {
-
-/// Luminance contrast of two colours, 1 to 21.
-double Contrast(const QColor& one, const QColor& two)
-{
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-    };
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(two) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
 
 QPalette Dark()
 {
@@ -154,6 +146,48 @@ TEST_F(Styled, UncheckedCheckBoxesAreSeen)
         best = std::max(best, Contrast(image.pixelColor(x, 15), Dark().color(QPalette::Window)));
     }
     EXPECT_GE(best, 3.0);
+}
+
+TEST_F(Styled, OutlinesOfCheckBoxesAndOptionsAreSeenInALightPaletteToo)
+{
+    QCheckBox box;
+    QRadioButton option;
+    for (QWidget* widget : std::initializer_list<QWidget*>{&box, &option}) {
+        Dress(*widget);
+        widget->setPalette(QPalette(QColor(239, 239, 239)));
+        const QImage image = widget->grab().toImage();
+        double best = 1;
+        for (int x = 0; x < 10; ++x) {
+            best = std::max(best, Contrast(image.pixelColor(x, 15), QColor(239, 239, 239)));
+        }
+        EXPECT_GE(best, 3.0) << widget->metaObject()->className();
+    }
+}
+
+TEST_F(Styled, SelectedTextIsReadable)
+{
+    QPalette palette(QColor(239, 239, 239));
+    palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    m_style.polish(palette);
+    EXPECT_GE(Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 4.5);
+}
+
+TEST_F(Styled, TheFrameOfADocumentShowsThatItHasTheKeyboard)
+{
+    QPlainTextEdit notes;
+    Dress(notes);
+    const QColor without = Outline(notes);
+    QStyleOptionFrame option;
+    option.initFrom(&notes);
+    option.lineWidth = 1;
+    option.state |= QStyle::State_HasFocus;
+    QImage image(notes.size(), QImage::Format_RGB32);
+    image.fill(Dark().color(QPalette::Window));
+    QPainter painter(&image);
+    m_style.drawPrimitive(QStyle::PE_Frame, &option, &painter, &notes);
+    EXPECT_NE(image.pixelColor(40, 0), without);
+    EXPECT_GE(Contrast(image.pixelColor(40, 0), Dark().color(QPalette::Window)), 3.0);
 }
 
 TEST(QuillonStyle, ButtonsOfMessageBoxesHaveNoIconsAsAllOthers)
