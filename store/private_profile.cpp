@@ -7,25 +7,21 @@
 namespace quillon::store {
 namespace {
 
+/// So many look-ups by walking, for each byte of the text, take as long as making a table of all entries.
+constexpr std::size_t kBytesPerWalk = 64;
+
 /// A name that alone is longer than all that is asked for is not copied as a whole.
 void AddName(std::string& names, std::string_view name, std::size_t enough)
 {
     names.append(name.substr(0, enough)).push_back('\0');
 }
 
-/// Most lines are not the one that is looked for, and telling so takes less than parsing them.
-bool BeginsWith(std::string_view line, std::string_view name)
-{
-    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    return EqualNames(line.substr(0, name.size()), name);
-}
-
 } // namespace
 
 std::optional<std::string_view> PrivateProfile::Value(std::string_view section, std::string_view key) const
 {
-    const std::optional<EntrySpan> entry = FindEntry(section, key);
-    return entry ? std::optional(Bytes().substr(entry->value, entry->valueLength)) : std::nullopt;
+    const std::optional<EntryLine> entry = FindEntryOf(section, key);
+    return entry ? std::optional(ValueOf(*entry)) : std::nullopt;
 }
 
 std::string PrivateProfile::SectionNames(std::size_t enough) const
@@ -44,22 +40,18 @@ std::string PrivateProfile::SectionNames(std::size_t enough) const
 template <class Visitor>
 void PrivateProfile::WalkEntries(std::string_view section, const Visitor& visit) const
 {
-    const std::optional<SectionSpan> span = FindSection(section);
-    std::size_t begin = span ? span->body : Bytes().size();
-    while (span && begin < span->end) {
-        const LineSpan line = LineAt(Bytes(), begin);
-        const ParsedLine parsed = ParseLine(Bytes().substr(line.begin, line.end - line.begin));
-        if (parsed.kind == LineKind::Entry && !visit(line, parsed)) {
-            return;
-        }
-        begin = line.next;
+    const SectionSpan span = FindSection(section).value_or(SectionSpan{});
+    const std::string_view lines = Bytes().substr(0, span.end);
+    std::optional<EntryLine> entry = FindEntry(lines, span.body);
+    while (entry && visit(*entry)) {
+        entry = FindEntry(lines, entry->equals + 1);
     }
 }
 
 std::string PrivateProfile::KeyNames(std::string_view section, std::size_t enough) const
 {
     std::string names;
-    WalkEntries(section, [&names, enough](const LineSpan& /*line*/, const ParsedLine& entry) {
+    WalkEntries(section, [&names, enough](const EntryLine& entry) {
         if (names.size() < enough) {
             AddName(names, entry.name, enough);
         }
@@ -71,8 +63,8 @@ std::string PrivateProfile::KeyNames(std::string_view section, std::size_t enoug
 std::vector<ProfileEntry> PrivateProfile::Entries(std::string_view section) const
 {
     std::vector<ProfileEntry> entries;
-    WalkEntries(section, [&entries](const LineSpan& /*line*/, const ParsedLine& entry) {
-        entries.push_back({entry.name, entry.value});
+    WalkEntries(section, [this, &entries](const EntryLine& entry) {
+        entries.push_back({entry.name, ValueOf(entry)});
         return true;
     });
     return entries;
@@ -82,11 +74,12 @@ std::optional<TextChange> PrivateProfile::ValueChange(std::string_view section, 
                                                       std::string_view value) const
 {
     value = WithoutBlanks(value);
-    if (const std::optional<EntrySpan> entry = FindEntry(section, key)) {
-        if (Bytes().substr(entry->value, entry->valueLength) == value) {
+    if (const std::optional<EntryLine> entry = FindEntryOf(section, key)) {
+        const std::string_view old = ValueOf(*entry);
+        if (old == value) {
             return std::nullopt;
         }
-        return TextChange{entry->value, entry->valueLength, std::string(value)};
+        return TextChange{static_cast<std::size_t>(old.data() - Bytes().data()), old.size(), std::string(value)};
     }
     const std::string newEntry = std::string(WithoutBlanks(key)).append("=").append(value).append(LineEnd());
     const std::optional<SectionSpan> span = FindSection(section);
@@ -107,8 +100,11 @@ std::optional<TextChange> PrivateProfile::ValueChange(std::string_view section, 
 
 std::optional<TextChange> PrivateProfile::KeyRemoval(std::string_view section, std::string_view key) const
 {
-    const std::optional<EntrySpan> entry = FindEntry(section, key);
-    return entry ? std::optional(TextChange{entry->line, entry->next - entry->line, {}}) : std::nullopt;
+    const std::optional<EntryLine> entry = FindEntryOf(section, key);
+    if (!entry) {
+        return std::nullopt;
+    }
+    return TextChange{entry->begin, LineAt(Bytes(), entry->begin).next - entry->begin, {}};
 }
 
 std::optional<TextChange> PrivateProfile::SectionRemoval(std::string_view section) const
@@ -133,6 +129,8 @@ bool PrivateProfile::Make(const std::optional<TextChange>& change)
     }
     m_bytes = std::move(changed);
     m_index = {};
+    m_table = {};
+    m_walks = 0;
     return true;
 }
 
@@ -141,23 +139,30 @@ std::optional<SectionSpan> PrivateProfile::FindSection(std::string_view section)
     return m_index.Find(Bytes(), WithoutBlanks(section));
 }
 
-std::optional<PrivateProfile::EntrySpan> PrivateProfile::FindEntry(std::string_view section, std::string_view key) const
+std::optional<EntryLine> PrivateProfile::FindEntryOf(std::string_view section, std::string_view key) const
 {
+    section = WithoutBlanks(section);
     const std::string_view name = WithoutBlanks(key);
-    const SectionSpan span = FindSection(section).value_or(SectionSpan{});
-    for (std::size_t begin = span.body; begin < span.end;) {
-        const LineSpan line = LineAt(Bytes(), begin);
-        const std::string_view text = Bytes().substr(line.begin, line.end - line.begin);
-        if (BeginsWith(text, name)) {
-            const ParsedLine entry = ParseLine(text);
-            if (entry.kind == LineKind::Entry && EqualNames(entry.name, name)) {
-                const auto value = static_cast<std::size_t>(entry.value.data() - Bytes().data());
-                return EntrySpan{line.begin, line.next, value, entry.value.size()};
-            }
-        }
-        begin = line.next;
+    if (m_table.IsMade() && !section.empty()) {
+        return m_table.Find(Bytes(), {section, name});
     }
-    return std::nullopt;
+    if (++m_walks == Bytes().size() / kBytesPerWalk + 1) {
+        m_table.Make(Bytes(), m_index);
+    }
+    std::optional<EntryLine> found;
+    WalkEntries(section, [&found, name](const EntryLine& entry) {
+        if (EqualNames(entry.name, name)) {
+            found = entry;
+        }
+        return !found;
+    });
+    return found;
+}
+
+std::string_view PrivateProfile::ValueOf(const EntryLine& entry) const noexcept
+{
+    const std::size_t begin = entry.equals + 1;
+    return WithoutBlanks(Bytes().substr(begin, FindLineEnd(Bytes(), begin) - begin));
 }
 
 std::string_view PrivateProfile::LineEnd() const noexcept

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/bytes.h"
+#include "store/entry_table.h"
 #include "store/section_index.h"
 
 #include <array>
@@ -84,24 +85,20 @@ public:
     bool Make(const std::optional<TextChange>& change);
 
 private:
-    struct EntrySpan
-    {
-        std::size_t line;
-        std::size_t next;
-        std::size_t value;
-        std::size_t valueLength;
-    };
-
     [[nodiscard]] std::optional<SectionSpan> FindSection(std::string_view section) const;
-    /// @param visit  gets each entry's LineSpan and ParsedLine in file order; false ends the walk.
+    /// @param visit  gets each EntryLine in file order; false ends the walk.
     template <class Visitor>
     void WalkEntries(std::string_view section, const Visitor& visit) const;
-    [[nodiscard]] std::optional<EntrySpan> FindEntry(std::string_view section, std::string_view key) const;
+    [[nodiscard]] std::optional<EntryLine> FindEntryOf(std::string_view section, std::string_view key) const;
+    [[nodiscard]] std::string_view ValueOf(const EntryLine& entry) const noexcept;
     [[nodiscard]] std::string_view LineEnd() const noexcept;
     [[nodiscard]] TextChange Insertion(std::size_t offset, std::string lines) const;
 
     store::Bytes m_bytes;
-    mutable SectionIndex m_index; ///< grows with the look-ups, and begins again after a change
+    // These grow with the look-ups, and begin again after a change.
+    mutable SectionIndex m_index;
+    mutable EntryTable m_table;
+    mutable std::size_t m_walks = 0; ///< look-ups without the table
 };
 
 } // namespace quillon::store

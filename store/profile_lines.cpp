@@ -33,12 +33,17 @@ std::size_t FirstLineEnd(Word word) noexcept
     return static_cast<std::size_t>(before) / 8;
 }
 
-bool IsBlank(char character) noexcept
+/// Begin of the blanks that stand before an offset.
+std::size_t BeginOfBlanks(std::string_view text, std::size_t offset) noexcept
 {
-    return character == ' ' || character == '\t';
+    while (offset > 0 && IsBlank(text[offset - 1])) {
+        --offset;
+    }
+    return offset;
 }
 
-/// Offset of the first line end from an offset on, or the text's size.
+} // namespace
+
 std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
 {
     const std::size_t usual = std::min(begin + kUsualLine, text.size());
@@ -62,22 +67,6 @@ std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
     }
     return text.size();
 }
-
-/// Begin of the blanks that stand before an offset.
-std::size_t BeginOfBlanks(std::string_view text, std::size_t offset) noexcept
-{
-    while (offset > 0 && IsBlank(text[offset - 1])) {
-        --offset;
-    }
-    return offset;
-}
-
-bool IsLineBegin(std::string_view text, std::size_t offset) noexcept
-{
-    return offset == 0 || text[offset - 1] == '\n' || text[offset - 1] == '\r';
-}
-
-} // namespace
 
 LineSpan LineAt(std::string_view text, std::size_t begin) noexcept
 {
@@ -110,39 +99,6 @@ std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) no
     return std::nullopt;
 }
 
-ParsedLine ParseLine(std::string_view line) noexcept
-{
-    const std::string_view text = WithoutBlanks(line);
-    if (text.empty()) {
-        return {LineKind::Blank, {}, {}};
-    }
-    if (text.front() == ';') {
-        return {LineKind::Comment, {}, {}};
-    }
-    if (text.front() == '[') {
-        const std::size_t close = text.rfind(']');
-        if (close != std::string_view::npos) {
-            return {LineKind::Header, WithoutBlanks(text.substr(1, close - 1)), {}};
-        }
-    }
-    const std::size_t equals = line.find('=');
-    if (equals == std::string_view::npos) {
-        return {LineKind::Other, {}, {}};
-    }
-    return {LineKind::Entry, WithoutBlanks(line.substr(0, equals)), WithoutBlanks(line.substr(equals + 1))};
-}
-
-std::string_view WithoutBlanks(std::string_view text) noexcept
-{
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 std::string_view WithoutQuotes(std::string_view value) noexcept
 {
     const bool isQuoted = value.size() > 1 && (value.front() == '"' || value.front() == '\'');
@@ -151,8 +107,9 @@ std::string_view WithoutQuotes(std::string_view value) noexcept
 
 bool EqualNames(std::string_view left, std::string_view right) noexcept
 {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return a == b || FoldCase(a) == FoldCase(b); });
+    // Names are mostly spelled alike, and telling so is quickest.
+    return left == right || std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                                       [](char a, char b) { return FoldCase(a) == FoldCase(b); });
 }
 
 } // namespace quillon::store

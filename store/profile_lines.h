@@ -6,6 +6,31 @@
 
 namespace quillon::store {
 
+[[nodiscard]] constexpr bool IsBlank(char character) noexcept
+{
+    return character == ' ' || character == '\t';
+}
+
+/// The text without the blanks and tabs around it; of a text of nothing else, the empty view at its end.
+[[nodiscard]] constexpr std::string_view WithoutBlanks(std::string_view text) noexcept
+{
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+[[nodiscard]] constexpr bool IsLineBegin(std::string_view text, std::size_t offset) noexcept
+{
+    return offset == 0 || text[offset - 1] == '\n' || text[offset - 1] == '\r';
+}
+
+/// Offset of the first line end from an offset on, or the text's size.
+[[nodiscard]] std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept;
+
 /// Where one line of a text lies; offsets into the text.
 struct LineSpan
 {
@@ -17,26 +42,35 @@ struct LineSpan
 /// The line that begins at an offset. It ends at CR LF, LF, CR or the end of the text.
 [[nodiscard]] LineSpan LineAt(std::string_view text, std::size_t begin) noexcept;
 
-enum class LineKind {
-    Blank,   ///< nothing but blanks and tabs
-    Comment, ///< starts with ";"
-    Header,  ///< "[name]"; the name runs to the last "]" of the line
-    Entry,   ///< "key=value"
-    Other    ///< no entry: kept as it is and never listed
-};
-
-/// What a line says. Views into the line, without the blanks and tabs around them.
-struct ParsedLine
+/// The line of an entry, "key=value". Lines without "=" and those that start with ";" are none: they are never listed.
+struct EntryLine
 {
-    LineKind kind;
-    std::string_view name;  ///< name of the section or key
-    std::string_view value; ///< an entry's value as it stands, quotes included
+    std::size_t begin;
+    std::size_t equals;    ///< place of the "=" that ends the name, the first of the line
+    std::string_view name; ///< view into the text, without the blanks and tabs around it
 };
 
-/// @param line  without its line end.
-[[nodiscard]] ParsedLine ParseLine(std::string_view line) noexcept;
+/// The first entry of a section's lines behind an offset.
+/// @param from  where a line begins, or behind the "=" of the entry found before.
+[[nodiscard]] inline std::optional<EntryLine> FindEntry(std::string_view text, std::size_t from) noexcept
+{
+    // From sign to sign, which passes over all other lines and all values without looking at them.
+    for (std::size_t equals = text.find('=', from); equals != std::string_view::npos; equals = text.find('=', from)) {
+        std::size_t begin = equals;
+        while (begin > from && !IsLineBegin(text, begin)) {
+            --begin;
+        }
+        const bool isFirst = IsLineBegin(text, begin);
+        const std::string_view name = WithoutBlanks(text.substr(begin, equals - begin));
+        if (isFirst && !name.starts_with(';')) {
+            return EntryLine{begin, equals, name};
+        }
+        from = equals + 1;
+    }
+    return std::nullopt;
+}
 
-/// The line of a section's header.
+/// The line of a section's header, "[name]"; the name runs to the last "]" of the line.
 struct HeaderLine
 {
     std::size_t begin;
@@ -46,9 +80,6 @@ struct HeaderLine
 
 /// The first header line of a text that begins at an offset or behind it. @param from  where a line begins or ends
 [[nodiscard]] std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept;
-
-/// The text without the blanks and tabs around it; of a text of nothing else, the empty view at its end.
-[[nodiscard]] std::string_view WithoutBlanks(std::string_view text) noexcept;
 
 /// The value without one outer pair of equal quotes; blanks inside the quotes stay.
 [[nodiscard]] std::string_view WithoutQuotes(std::string_view value) noexcept;

@@ -1,7 +1,8 @@
 #include "store/section_index.h"
 
+#include "store/name_hash.h"
+
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <iterator>
 #include <limits>
@@ -15,21 +16,6 @@ constexpr std::size_t kFewSections = 32;
 /// shorter.
 constexpr std::size_t kBytesPerName = 64;
 constexpr std::uint32_t kFree = std::numeric_limits<std::uint32_t>::max();
-
-/// Eight bytes at a time, of which the bit is set that makes small letters of capitals.
-std::size_t Hash(std::string_view name) noexcept
-{
-    constexpr std::uint64_t kSmall = 0x2020202020202020U;
-    constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15U;
-    std::uint64_t hash = name.size();
-    while (!name.empty()) {
-        std::array<char, sizeof(std::uint64_t)> part{};
-        name.remove_prefix(name.copy(part.data(), part.size()));
-        hash = (hash ^ (std::bit_cast<std::uint64_t>(part) | kSmall)) * kOdd;
-        hash ^= hash >> 32U;
-    }
-    return hash;
-}
 
 } // namespace
 
@@ -139,7 +125,7 @@ void SectionIndex::GrowTable(std::string_view text)
 std::size_t SectionIndex::Slot(std::string_view text, std::string_view name) const noexcept
 {
     const std::size_t mask = m_table.size() - 1;
-    std::size_t slot = Hash(name) & mask;
+    std::size_t slot = HashName(name) & mask;
     while (m_table[slot] != kFree && !EqualNames(Name(text, m_table[slot]), name)) {
         slot = (slot + 1) & mask;
     }

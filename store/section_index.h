@@ -29,13 +29,15 @@ public:
     /// Name of a section. @param place  one that Has was true for
     [[nodiscard]] std::string_view Name(std::string_view text, std::size_t place) const noexcept;
 
+    /// Where a section lies. @param place  one that Has was true for
+    [[nodiscard]] SectionSpan Span(std::string_view text, std::size_t place);
+
     /// The first section of a name, letter case aside. The empty name stands for the lines before the first header,
     /// which are always there.
     [[nodiscard]] std::optional<SectionSpan> Find(std::string_view text, std::string_view name);
 
 private:
     std::optional<HeaderLine> FindNextHeader(std::string_view text);
-    [[nodiscard]] SectionSpan Span(std::string_view text, std::size_t place);
     [[nodiscard]] std::optional<std::size_t> FindPlace(std::string_view text, std::string_view name);
     [[nodiscard]] std::optional<std::size_t> FindByWalk(std::string_view text, std::string_view name);
     void BuildTable(std::string_view text);

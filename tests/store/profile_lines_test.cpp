@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace quillon::store {
 namespace {
@@ -60,6 +62,8 @@ TEST(LineAt, FindsTheFirstOfTwoEndsInALineOfAnyLength)
     }
 }
 
+enum class LineKind { Header, Entry, Neither };
+
 struct LineRow
 {
     const char* name;
@@ -69,25 +73,34 @@ struct LineRow
     std::string_view value;
 };
 
-class ParseLineRow : public ::testing::TestWithParam<LineRow>
+class LineKindRow : public ::testing::TestWithParam<LineRow>
 {
 };
 
-TEST_P(ParseLineRow, TellsWhatTheLineSays)
+TEST_P(LineKindRow, TellsWhatTheLineSays)
 {
     const LineRow& row = GetParam();
-    const ParsedLine line = ParseLine(row.line);
-    EXPECT_EQ(line.kind, row.kind);
-    EXPECT_EQ(line.name, row.text);
-    EXPECT_EQ(line.value, row.value);
+    const std::optional<HeaderLine> header = FindHeader(row.line, 0);
+    ASSERT_EQ(header.has_value(), row.kind == LineKind::Header);
+    if (header) { // and the line is none of a section, where entries are looked for
+        EXPECT_EQ(header->name, row.text);
+        EXPECT_EQ(header->end, row.line.size());
+        return;
+    }
+    const std::optional<EntryLine> entry = FindEntry(row.line, 0);
+    ASSERT_EQ(entry.has_value(), row.kind == LineKind::Entry);
+    if (entry) {
+        EXPECT_EQ(entry->name, row.text);
+        EXPECT_EQ(WithoutBlanks(row.line.substr(entry->equals + 1)), row.value);
+    }
 }
 
 // clang-format off
-INSTANTIATE_TEST_SUITE_P(Kinds, ParseLineRow, ::testing::Values(
-    LineRow{"nothing", "", LineKind::Blank, "", ""},
-    LineRow{"blanks and tabs only", " \t ", LineKind::Blank, "", ""},
-    LineRow{"comment", ";a=1", LineKind::Comment, "", ""},
-    LineRow{"indented comment", " \t;[s]", LineKind::Comment, "", ""},
+INSTANTIATE_TEST_SUITE_P(Kinds, LineKindRow, ::testing::Values(
+    LineRow{"nothing", "", LineKind::Neither, "", ""},
+    LineRow{"blanks and tabs only", " \t ", LineKind::Neither, "", ""},
+    LineRow{"comment", ";a=1", LineKind::Neither, "", ""},
+    LineRow{"indented comment", " \t;[s]", LineKind::Neither, "", ""},
     LineRow{"hash starts no comment", "#a=1", LineKind::Entry, "#a", "1"},
     LineRow{"semicolon further on is text", "a=1 ; b", LineKind::Entry, "a", "1 ; b"},
     LineRow{"header", "[s]", LineKind::Header, "s", ""},
@@ -97,9 +110,9 @@ INSTANTIATE_TEST_SUITE_P(Kinds, ParseLineRow, ::testing::Values(
     LineRow{"header with an equals sign", "[a=b]", LineKind::Header, "a=b", ""},
     LineRow{"header with text behind it", "[k]=v", LineKind::Header, "k", ""},
     LineRow{"header without name", "[]", LineKind::Header, "", ""},
-    LineRow{"bracket that is not closed starts no section", "[s", LineKind::Other, "", ""},
+    LineRow{"bracket that is not closed starts no section", "[s", LineKind::Neither, "", ""},
     LineRow{"bracket that is not closed, with equals sign", "[s=1", LineKind::Entry, "[s", "1"},
-    LineRow{"no equals sign is no entry", "abc", LineKind::Other, "", ""},
+    LineRow{"no equals sign is no entry", "abc", LineKind::Neither, "", ""},
     LineRow{"entry", "a=1", LineKind::Entry, "a", "1"},
     LineRow{"blanks around key and value drop, inner ones stay", "\ta b \t= 1  2 ", LineKind::Entry, "a b", "1  2"},
     LineRow{"first equals sign splits", "a==b=c", LineKind::Entry, "a", "=b=c"},
@@ -108,6 +121,33 @@ INSTANTIATE_TEST_SUITE_P(Kinds, ParseLineRow, ::testing::Values(
     LineRow{"quotes stay in the line", "a=\"b\"", LineKind::Entry, "a", "\"b\""}), support::RowName());
 
 // clang-format on
+
+/// The entries of a text, each with the begin of its line.
+std::vector<std::pair<std::size_t, std::string>> EntriesOf(std::string_view text, std::size_t from)
+{
+    std::vector<std::pair<std::size_t, std::string>> entries;
+    std::optional<EntryLine> entry = FindEntry(text, from);
+    for (; entry; entry = FindEntry(text, entry->equals + 1)) {
+        entries.emplace_back(entry->begin, entry->name);
+    }
+    return entries;
+}
+
+TEST(FindEntry, FindsEachEntryOnceBehindLineEndsOfAllKinds)
+{
+    using Entries = std::vector<std::pair<std::size_t, std::string>>;
+    EXPECT_EQ(EntriesOf("a=b=c==\rb=\r\n c =\n\nd=e\n", 0), (Entries{{0, "a"}, {8, "b"}, {12, "c"}, {18, "d"}}));
+    EXPECT_EQ(EntriesOf("a=\n=b\n==\n", 0), (Entries{{0, "a"}, {3, ""}, {6, ""}}));
+}
+
+TEST(FindEntry, PassesOverLinesThatAreNone)
+{
+    using Entries = std::vector<std::pair<std::size_t, std::string>>;
+    EXPECT_EQ(EntriesOf("none\n;x=y=z\n \t;x=\n\nb=1\nnone", 0), (Entries{{19, "b"}}));
+    EXPECT_EQ(EntriesOf("a=1\nb=2\n", 4), (Entries{{4, "b"}}));
+    EXPECT_EQ(EntriesOf("none", 0), Entries{});
+    EXPECT_EQ(EntriesOf("a=1\n", 4), Entries{});
+}
 
 struct QuoteRow
 {

@@ -1,0 +1,107 @@
+#include "store/entry_table.h"
+
+#include "store/private_profile.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+namespace quillon::store {
+namespace {
+
+/// The place of an entry's value, by a table made for the text; 0 for none.
+std::size_t PlaceByTable(std::string_view text, const EntryName& name)
+{
+    SectionIndex sections;
+    EntryTable table;
+    table.Make(text, sections);
+    EXPECT_TRUE(table.IsMade());
+    const std::optional<EntryLine> entry = table.Find(text, name);
+    return entry ? entry->equals : 0;
+}
+
+/// Makes a text long enough for a table of its entries.
+std::string Long(const std::string& text)
+{
+    return text + std::string(100, ' ');
+}
+
+TEST(EntryTable, FindsEntriesInAnyCase)
+{
+    const std::string text = Long("[Yagi]\r\nGain20=100\r\n  [Quad ]\r\nGain20=71\r\nGain40=72\r\n");
+    EXPECT_EQ(PlaceByTable(text, {"yagi", "GAIN20"}), text.find("=100"));
+    EXPECT_EQ(PlaceByTable(text, {"QUAD", "gain20"}), text.find("=71"));
+    EXPECT_EQ(PlaceByTable(text, {"Quad", "Gain40"}), text.find("=72"));
+    EXPECT_EQ(PlaceByTable(text, {"Yagi", "Gain40"}), 0U);
+    EXPECT_EQ(PlaceByTable(text, {"Loop", "Gain20"}), 0U);
+    EXPECT_EQ(PlaceByTable(text, {std::string(1000, 'x'), "Gain20"}), 0U);
+}
+
+TEST(EntryTable, FindsTheFirstOfANameInTheFirstSectionOfAName)
+{
+    const std::string text = Long("[s]\nk=1\nK=2\n[S]\nk=3\nonly=4\n");
+    EXPECT_EQ(PlaceByTable(text, {"S", "K"}), text.find("=1"));
+    EXPECT_EQ(PlaceByTable(text, {"s", "only"}), 0U);
+}
+
+TEST(EntryTable, LeavesOutSectionsWithoutName)
+{
+    const std::string text = Long("[]\nk=1\n[s]\nk=2\n");
+    EXPECT_EQ(PlaceByTable(text, {"s", "k"}), text.find("=2"));
+    EXPECT_EQ(PlaceByTable("k=0\n" + text, {"s", "k"}), 4 + text.find("=2"));
+}
+
+TEST(EntryTable, TakesNoMoreMemoryThanTheText)
+{
+    std::string text = "[s]\n";
+    SectionIndex sections;
+    EntryTable table;
+    for (int number = 0; number < 100; ++number) {
+        text += "a=1\n";
+    }
+    table.Make(text, sections);
+    EXPECT_FALSE(table.IsMade());
+    table.Make(text.append(804, '\n'), sections);
+    EXPECT_TRUE(table.IsMade());
+}
+
+/// Sections and keys whose names come again and again, in all cases and with blanks here and there.
+std::string MixedText(std::minstd_rand& numbers)
+{
+    const auto pick = [&numbers](const char* const(&texts)[4]) { return std::string(texts[numbers() % 4]); };
+    std::string text;
+    for (int line = 0; line < 400; ++line) {
+        const std::string name = std::to_string(numbers() % 60);
+        const std::string end = pick({"\n", "\r\n", "\r", " \n"});
+        text += numbers() % 4 == 0
+                    ? pick({"[sec", "[SEC", " [ Sec", "[sec"}) + name + pick({"]", " ]", "]", "] x]"}) + end
+                    : pick({"key", ";key", " Key ", "KEY"}) + name + pick({"=", " = ", "", "=="}) +
+                          std::string(name.size() * 8, 'v') + std::to_string(line) + end;
+    }
+    return text;
+}
+
+TEST(PrivateProfileTable, AnswersAsTheWalkDoesAlsoAfterAChange)
+{
+    for (unsigned seed = 1; seed < 20; ++seed) {
+        std::minstd_rand numbers(seed);
+        PrivateProfile often{MixedText(numbers)};
+        PrivateProfile walking;
+        for (int look = 0; look < 1500; ++look) {
+            if (look % 100 == 0) { // before it has been asked so often that it makes a table
+                walking = PrivateProfile(often.Bytes());
+            }
+            const std::string section = numbers() % 50 == 0 ? "" : "Sec" + std::to_string(numbers() % 62);
+            const std::string key = "kEy" + std::to_string(numbers() % 62);
+            ASSERT_EQ(often.Value(section, key), walking.Value(section, key))
+                << "seed " << seed << ", look " << look << ": [" << section << "] " << key;
+            if (look % 500 == 499) {
+                often.Make(often.ValueChange(section, key, std::to_string(look)));
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace quillon::store
