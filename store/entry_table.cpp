@@ -45,7 +45,7 @@ void EntryTable::Make(std::string_view text, SectionIndex& sections)
         const std::string_view name = sections.Name(text, place);
         const SectionSpan span = sections.Span(text, place);
         const std::optional<SectionSpan> first = sections.Find(text, name);
-        if (!name.empty() && first && first->header == span.header) {
+        if (first && first->header == span.header) { // the first section of a name wins
             Add(text, name, span);
         }
     }

@@ -33,15 +33,6 @@ std::size_t FirstLineEnd(Word word) noexcept
     return static_cast<std::size_t>(before) / 8;
 }
 
-/// Begin of the blanks that stand before an offset.
-std::size_t BeginOfBlanks(std::string_view text, std::size_t offset) noexcept
-{
-    while (offset > 0 && IsBlank(text[offset - 1])) {
-        --offset;
-    }
-    return offset;
-}
-
 } // namespace
 
 std::size_t FindLineEnd(std::string_view text, std::size_t begin) noexcept
@@ -76,27 +67,6 @@ LineSpan LineAt(std::string_view text, std::size_t begin) noexcept
     }
     const bool isPair = text.substr(end, 2) == "\r\n";
     return {begin, end, end + (isPair ? 2 : 1)};
-}
-
-std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept
-{
-    // Brackets are rare: looking for them passes over the other lines without looking at each.
-    for (std::size_t bracket = text.find('[', from); bracket != std::string_view::npos;
-         bracket = text.find('[', from)) {
-        const std::size_t begin = BeginOfBlanks(text, bracket);
-        from = bracket + 1;
-        if (!IsLineBegin(text, begin)) {
-            continue;
-        }
-        const std::size_t end = FindLineEnd(text, from);
-        const std::string_view name = text.substr(from, end - from);
-        const std::size_t close = name.rfind(']');
-        if (close != std::string_view::npos) {
-            return HeaderLine{begin, end, WithoutBlanks(name.substr(0, close))};
-        }
-        from = end;
-    }
-    return std::nullopt;
 }
 
 std::string_view WithoutQuotes(std::string_view value) noexcept

@@ -6,6 +6,9 @@
 
 namespace quillon::store {
 
+// What is asked for each line of a file stands here in full: joined to its callers, it hands over what it finds in
+// registers.
+
 [[nodiscard]] constexpr bool IsBlank(char character) noexcept
 {
     return character == ' ' || character == '\t';
@@ -21,6 +24,15 @@ namespace quillon::store {
         text.remove_suffix(1);
     }
     return text;
+}
+
+/// Begin of the blanks that stand before an offset.
+[[nodiscard]] constexpr std::size_t BeginOfBlanks(std::string_view text, std::size_t offset) noexcept
+{
+    while (offset > 0 && IsBlank(text[offset - 1])) {
+        --offset;
+    }
+    return offset;
 }
 
 [[nodiscard]] constexpr bool IsLineBegin(std::string_view text, std::size_t offset) noexcept
@@ -79,7 +91,26 @@ struct HeaderLine
 };
 
 /// The first header line of a text that begins at an offset or behind it. @param from  where a line begins or ends
-[[nodiscard]] std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept;
+[[nodiscard]] inline std::optional<HeaderLine> FindHeader(std::string_view text, std::size_t from) noexcept
+{
+    // Brackets are rare: looking for them passes over the other lines without looking at each.
+    for (std::size_t bracket = text.find('[', from); bracket != std::string_view::npos;
+         bracket = text.find('[', from)) {
+        const std::size_t begin = BeginOfBlanks(text, bracket);
+        from = bracket + 1;
+        if (!IsLineBegin(text, begin)) {
+            continue;
+        }
+        const std::size_t end = FindLineEnd(text, from);
+        const std::string_view name = text.substr(from, end - from);
+        const std::size_t close = name.rfind(']');
+        if (close != std::string_view::npos) {
+            return HeaderLine{begin, end, WithoutBlanks(name.substr(0, close))};
+        }
+        from = end;
+    }
+    return std::nullopt;
+}
 
 /// The value without one outer pair of equal quotes; blanks inside the quotes stay.
 [[nodiscard]] std::string_view WithoutQuotes(std::string_view value) noexcept;

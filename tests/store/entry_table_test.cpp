@@ -66,6 +66,27 @@ TEST(EntryTable, TakesNoMoreMemoryThanTheText)
     EXPECT_TRUE(table.IsMade());
 }
 
+TEST(EntryTable, FindsNothingByNamesThatOnlySeemAlike)
+{
+    std::string text;
+    for (int number = 0; number < 100; ++number) {
+        text += "[s" + std::to_string(number) + "] x]\nk" + std::to_string(number) + "=1\n";
+    }
+    text = Long(text);
+    SectionIndex sections;
+    EntryTable table;
+    table.Make(text, sections);
+    ASSERT_TRUE(table.IsMade());
+    for (int number = 0; number < 20'000; ++number) { // some of whose hashes meet others' by chance
+        const std::string section = "s" + std::to_string(number % 100);
+        const std::string key = "k" + std::to_string(number);
+        EXPECT_EQ(table.Find(text, {section + "] x", key}).has_value(), number < 100) << key;
+        EXPECT_FALSE(table.Find(text, {section, key})) << section << " " << key;
+        EXPECT_FALSE(table.Find(text, {section + std::string(text.size(), 'x'), key})) << section << " " << key;
+        EXPECT_FALSE(table.Find(text, {"t" + key, "k1"})) << key;
+    }
+}
+
 /// Sections and keys whose names come again and again, in all cases and with blanks here and there.
 std::string MixedText(std::minstd_rand& numbers)
 {
