@@ -56,7 +56,8 @@ void RemoveRegularFile(FileCalls& calls, const fs::path& file)
 void RemoveStaleFilesIn(FileCalls& calls, const ProgramFolder& program, const fs::path& folder)
 {
     for (const std::string& name : ListFiles(calls, folder)) {
-        if (IsDataFile(program, folder, NameInside(name))) {
+        const std::string_view inside = NameInside(name);
+        if (!inside.empty() && IsDataFile(program, folder, inside)) {
             RemoveRegularFile(calls, folder / name);
         }
         const auto target = IsDataFile(program, folder, name) ? FollowLinks(calls, folder / name) : std::nullopt;

@@ -5,7 +5,7 @@
 namespace quillon::ui {
 
 /// The desktop's beep, and pending events without user input and timers: neither a keystroke nor what it set going can
-/// change a record, or begin another computation, during a computation.
+/// change a record, or begin another computation, during a computation. Repaints wait for its end.
 class DesktopHooks : public engine::EngineHooks
 {
 public:

@@ -116,8 +116,9 @@ IppMessage IppRequest(ipp_op_t operation)
 IppMessage IppRequestAbout(ipp_op_t operation, const QString& printer)
 {
     std::array<char, HTTP_MAX_URI> uri{};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", printer.toUtf8().constData());
+    const QByteArray path = "/printers/" + printer.toUtf8();
+    httpAssembleURI(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                    path.constData());
     IppMessage request(ippNewRequest(operation));
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());

@@ -35,5 +35,48 @@ TEST(DesktopHooks, ButtonsPressedByTheirAccessKeysAreNotClicked)
     EXPECT_TRUE(QTest::qWaitFor([&clicks] { return !clicks.isEmpty(); })) << "later it is";
 }
 
+/// Counts its repaints.
+class Painted : public QWidget
+{
+public:
+    int count = 0;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override { ++count; }
+};
+
+TEST(DesktopHooks, AWindowIsRepaintedOnceAfterAllStepsOfASearch)
+{
+    DesktopHooks hooks;
+    Painted window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitFor([&window] { return window.count > 0; }));
+    QTest::qWait(50);
+    window.count = 0;
+
+    window.update();
+    for (int step = 0; step < 8; ++step) {
+        hooks.LetPendingEventsRun();
+    }
+    EXPECT_EQ(window.count, 0);
+
+    window.update();
+    QTest::qWait(50);
+    EXPECT_EQ(window.count, 1);
+}
+
+TEST(DesktopHooks, AWindowThatGoesBeforeItsRepaintIsForgotten)
+{
+    DesktopHooks hooks;
+    {
+        Painted window;
+        window.show();
+        ASSERT_TRUE(QTest::qWaitFor([&window] { return window.count > 0; }));
+        window.update();
+        hooks.LetPendingEventsRun();
+    }
+    hooks.LetPendingEventsRun();
+}
+
 } // namespace
 } // namespace quillon::ui
