@@ -62,10 +62,8 @@ void NumberBox::SetInk(const QColor& color, const QString& warning)
 void NumberBox::ApplyInk(const QColor& color)
 {
     QPalette own;
-    // Pure red is hard to read on white and on every other light ground.
-    const QColor base = Contrast(color, Qt::white) >= kReadable ? Qt::white : Qt::black;
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        own.setColor(group, QPalette::Base, base);
+        own.setColor(group, QPalette::Base, Qt::white);
         own.setColor(group, QPalette::Text, color);
     }
     setPalette(own);

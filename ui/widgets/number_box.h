@@ -28,8 +28,7 @@ public:
     /// Tool tip and description while nothing is marked.
     void SetHint(const QString& text);
 
-    /// Fixed text colour on a base of its own in every palette, white or, where that is hard to read, black; with a
-    /// warning triangle and words when warning is not empty.
+    /// Fixed text colour on a white base in every palette, with a warning triangle and words when warning is not empty.
     void SetInk(const QColor& color, const QString& warning = {});
 
     [[nodiscard]] std::optional<QColor> Ink() const { return m_ink; }

@@ -94,15 +94,6 @@ TEST(NumberBox, InkStandsOnWhiteInEveryPalette)
     EXPECT_EQ(box.grab().toImage().pixelColor(80, 15), QColor(Qt::white));
 }
 
-TEST(NumberBox, InkThatIsHardToReadOnWhiteStandsOnBlack)
-{
-    NumberBox box(5);
-    box.SetInk(Qt::red); // 4.0 to 1 on white, 5.3 on black
-    EXPECT_EQ(box.palette().color(QPalette::Base), QColor(Qt::black));
-    box.SetInk(QColor(64, 64, 64));
-    EXPECT_EQ(box.palette().color(QPalette::Base), QColor(Qt::white));
-}
-
 TEST(NumberBox, AWarningIsTriangleAndWords)
 {
     NumberBox box(5);
