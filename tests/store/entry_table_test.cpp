@@ -95,10 +95,13 @@ std::string MixedText(std::minstd_rand& numbers)
     for (int line = 0; line < 400; ++line) {
         const std::string name = std::to_string(numbers() % 60);
         const std::string end = pick({"\n", "\r\n", "\r", " \n"});
-        text += numbers() % 4 == 0
-                    ? pick({"[sec", "[SEC", " [ Sec", "[sec"}) + name + pick({"]", " ]", "]", "] x]"}) + end
-                    : pick({"key", ";key", " Key ", "KEY"}) + name + pick({"=", " = ", "", "=="}) +
-                          std::string(name.size() * 8, 'v') + std::to_string(line) + end;
+        if (numbers() % 4 == 0) {
+            text.append(pick({"[sec", "[SEC", " [ Sec", "[sec"})).append(name).append(pick({"]", " ]", "]", "] x]"}));
+        } else {
+            text.append(pick({"key", ";key", " Key ", "KEY"})).append(name).append(pick({"=", " = ", "", "=="}));
+            text.append(name.size() * 8, 'v').append(std::to_string(line));
+        }
+        text.append(end);
     }
     return text;
 }
