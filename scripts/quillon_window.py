@@ -2,7 +2,9 @@
 is read as a screen reader reads it. Needs a display, a window manager and a session bus (on-virtual-display.sh).
 """
 
+import locale
 import os
+import re
 import subprocess
 import time
 
@@ -50,13 +52,20 @@ def has_state(element, state):
     return element.get_state_set().contains(state)
 
 
+def with_point(text):
+    """A text as it is shown, with a point in its numbers whatever the desktop's language has there."""
+    locale.setlocale(locale.LC_NUMERIC, "")
+    sign = re.escape(locale.localeconv()["decimal_point"])
+    return re.sub(rf"(?<=\d){sign}(?=\d)", ".", text)
+
+
 def name_of(element):
     element.clear_cache()
-    return element.get_name() or ""
+    return with_point(element.get_name() or "")
 
 
 def text_of(element):
-    return Atspi.Text.get_text(element, 0, -1)
+    return with_point(Atspi.Text.get_text(element, 0, -1))
 
 
 def elements_below(element):
@@ -84,11 +93,7 @@ class QuillonWindow:
             raise
 
     def _start(self, program):
-        settings = {
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            # Figures are read as they stand, so the decimal separator has to be known.
-            "LC_ALL": "C.UTF-8",
-        }
+        settings = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
         Atspi.init()
         self._process = subprocess.Popen([program], env={**os.environ, **settings})
 

@@ -114,13 +114,13 @@ TEST_F(ShippedCatalogue, GivesEveryCableItsFigures)
             EXPECT_EQ(byK, file.Maker() == "TIMES MICROWAVE");
             const auto specs = byK ? m_catalogue.LoadCableKFactors(file.Maker(), cable.name, figures)
                                    : m_catalogue.LoadCableLoss(file.Maker(), cable.name, figures);
-            EXPECT_THAT(specs.Spec1, Eq(std::stof(cable.Value("Spec1").value_or("0"))));
-            EXPECT_THAT(specs.Spec2, Eq(std::stof(cable.Value("Spec2").value_or("0"))));
+            EXPECT_THAT(specs.Spec1, Eq(NumberOf<float>(cable.Value("Spec1").value_or("0"))));
+            EXPECT_THAT(specs.Spec2, Eq(NumberOf<float>(cable.Value("Spec2").value_or("0"))));
             const auto places =
                 byK ? std::vector<std::size_t>{1, 2} : std::vector<std::size_t>{0, 1, 2, 3, 4, 5, 6, 7, 8};
             for (const std::size_t place : places) {
                 const std::string key = byK ? "K" + std::to_string(place) : cable.entries[place].first;
-                EXPECT_EQ(figures.at(place), std::stof(cable.Value(key).value_or("0"))) << key;
+                EXPECT_EQ(figures.at(place), NumberOf<float>(cable.Value(key).value_or("0"))) << key;
             }
         }
     }

@@ -27,7 +27,7 @@ std::vector<std::string> KeysOf(const Section& section)
 double Figure(const Section& cable, std::string_view key)
 {
     const std::string text = cable.Value(key).value_or("");
-    return IsDecimal(text) ? std::stod(text) : -1;
+    return IsDecimal(text) ? NumberOf<double>(text) : -1;
 }
 
 std::string TestName(const ::testing::TestParamInfo<std::filesystem::path>& info)

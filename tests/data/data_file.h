@@ -1,5 +1,6 @@
 #pragma once
 
+#include <charconv>
 #include <filesystem>
 #include <optional>
 #include <ostream>
@@ -49,6 +50,15 @@ struct DataFile
 
 /// @return whether a text is a plain decimal number: digits, and at most one point between digits.
 [[nodiscard]] bool IsDecimal(std::string_view text);
+
+/// @return the number that a decimal text stands for, in whatever language the tests run; 0 for any other text.
+template <class Number>
+[[nodiscard]] Number NumberOf(std::string_view text)
+{
+    Number number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
 
 /// @return whether a text is a whole number without sign.
 [[nodiscard]] bool IsWholeNumber(std::string_view text);

@@ -4,6 +4,7 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
+from quillon_window import with_point  # noqa: E402
 
 KINDS = ("object:property-change:accessible-name", "object:property-change:accessible-description")
 
@@ -18,7 +19,8 @@ class HeardChanges:
     def _hear(self, event):
         # The text itself is not in the event.
         event.source.clear_cache()
-        self._texts.append(event.source.get_name() if event.type == KINDS[0] else event.source.get_description())
+        text = event.source.get_name() if event.type == KINDS[0] else event.source.get_description()
+        self._texts.append(with_point(text))
 
     def __enter__(self):
         for kind in KINDS:

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalSocket>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -114,6 +115,10 @@ void PrivateCups::Start()
     m_service.setProcessChannelMode(QProcess::MergedChannels);
     // Tests that are killed leave no service behind.
     m_service.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    // It answers in one language, whatever the tests run in.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("CUPS_LOCALEDIR"), etc);
+    m_service.setProcessEnvironment(environment);
     m_service.start(Program(QStringLiteral("cupsd")),
                     {QStringLiteral("-f"), QStringLiteral("-c"), etc + QStringLiteral("/cupsd.conf"),
                      QStringLiteral("-s"), etc + QStringLiteral("/cups-files.conf")});

@@ -113,11 +113,20 @@ TEST_P(TypedGain, IsFilteredAndGuarded)
 INSTANTIATE_TEST_SUITE_P(Keys, TypedGain, ::testing::Values(
     TypedRow{"digits and point", "12.5", "12.5"},
     TypedRow{"minus in front", "-1.6", "-1.6"},
-    TypedRow{"letters are swallowed", "1a b2e+,/3", "123"},
+    TypedRow{"letters are swallowed", "1a b2e+/3", "123"},
     TypedRow{"minus behind a digit takes it away, as given", "5-", "-"},
     TypedRow{"second minus, as given", "-5-", "-"},
     TypedRow{"minus within a number, as given", "12-34", "-34"},
     TypedRow{"two minuses", "--", "-"}), support::RowName());
+
+TEST_F(BandsTest, CommaIsSwallowedWhereItIsNotTheDecimalSign)
+{
+    dialog.setLocale(QLocale::c());
+    Paste("txtGainFigure(1)", "");
+    Box("txtGainFigure(1)").setFocus();
+    test::Type(dialog, QStringLiteral("12,3"));
+    EXPECT_EQ(Box("txtGainFigure(1)").text(), QStringLiteral("123"));
+}
 
 class PastedGain : public BandsTest, public ::testing::WithParamInterface<TypedRow>
 {

@@ -1,5 +1,7 @@
 #include "tests/ui/editor/editor_fixture.h"
 
+#include "tests/support/shown_numbers.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -38,7 +40,7 @@ std::string EditorTest::Text(const std::string& name)
 {
     const QWidget& widget = Find(name);
     const char* property = qobject_cast<const QComboBox*>(&widget) != nullptr ? "currentText" : "text";
-    return widget.property(property).toString().toStdString();
+    return support::WithPoint(widget.property(property).toString());
 }
 
 std::string EditorTest::Entries(const std::string& list)
@@ -56,7 +58,7 @@ std::string EditorTest::Gains()
     for (int index = 1; index <= 14; ++index) {
         gains << Box(Of("txtGainFigure", index)).text();
     }
-    return gains.join(u'|').toStdString();
+    return support::WithPoint(gains.join(u'|'));
 }
 
 std::string EditorTest::Bands()

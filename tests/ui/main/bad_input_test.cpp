@@ -81,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Combine(BothSystems(),
                        ::testing::Values(BadRow{"letters behind", "12.5abc", "“12.5abc” is not a number"},
                                          BadRow{"two points", "1.2.3", "“1.2.3” is not a number"},
-                                         BadRow{"grouping", "1,500", "“1,500” is not a number"},
+                                         BadRow{"grouping", "1'500", "“1'500” is not a number"},
                                          BadRow{"point alone", ".", "“.” is not a number"},
                                          BadRow{"sign alone", "-", "“-” is not a number"},
                                          BadRow{"blank", " ", "“ ” is not a number"},

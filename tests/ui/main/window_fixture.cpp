@@ -1,5 +1,6 @@
 #include "tests/ui/main/window_fixture.h"
 
+#include "tests/support/shown_numbers.h"
 #include "tests/support/shown_window.h"
 #include "tests/ui/main/test_catalogue.h"
 
@@ -38,13 +39,12 @@ void Click(QWidget& spin, int y, int times)
 
 WindowTest::WindowTest()
 {
-    QLocale::setDefault(QLocale::c());
     PutCatalogues(folder);
 }
 
 WindowTest::~WindowTest()
 {
-    QLocale::setDefault(QLocale::c());
+    QLocale::setDefault(QLocale::system());
 }
 
 Quillon& WindowTest::Make()
@@ -76,22 +76,22 @@ std::string WindowTest::Text(const std::string& name)
     } else {
         throw std::runtime_error("no text in " + name);
     }
-    return text.toStdString();
+    return support::WithPoint(text);
 }
 
 std::string WindowTest::ToolTip(const std::string& name)
 {
-    return Find(name).toolTip().toStdString();
+    return support::WithPoint(Find(name).toolTip());
 }
 
 std::string WindowTest::AccessibleName(const std::string& name)
 {
-    return Find(name).accessibleName().toStdString();
+    return support::WithPoint(Find(name).accessibleName());
 }
 
 std::string WindowTest::AccessibleDescription(const std::string& name)
 {
-    return Find(name).accessibleDescription().toStdString();
+    return support::WithPoint(Find(name).accessibleDescription());
 }
 
 bool WindowTest::IsFilled(const std::string& marker)

@@ -48,7 +48,7 @@ protected:
 
     CatalogueListBox& List(const std::string& name) { return Find<CatalogueListBox>(name); }
 
-    /// Text of a label, a text box, a list box or a button, in UTF-8.
+    /// Text of a label, a text box, a list box or a button, in UTF-8; as all texts here with points in its numbers.
     std::string Text(const std::string& name);
     std::string ToolTip(const std::string& name);
     std::string AccessibleName(const std::string& name);

@@ -2,6 +2,7 @@
 
 #include "tests/support/find_widget.h"
 #include "tests/support/row_name.h"
+#include "tests/support/shown_numbers.h"
 #include "tests/support/shown_window.h"
 #include "tests/ui/table/table_texts.h"
 
@@ -33,9 +34,9 @@ TEST(ShowTable, All200RowsReadAsGiven)
     ASSERT_EQ(grid.columnCount(), 3);
     for (int row = 0; row < 200; ++row) {
         const TableTexts& texts = kTableTexts.at(static_cast<std::size_t>(row));
-        EXPECT_EQ(grid.item(row, 0)->text().toStdString(), texts.dB) << "row " << row + 1;
-        EXPECT_EQ(grid.item(row, 1)->text().toStdString(), texts.gainCoefficient) << "row " << row + 1;
-        EXPECT_EQ(grid.item(row, 2)->text().toStdString(), texts.lossCoefficient) << "row " << row + 1;
+        EXPECT_EQ(support::WithPoint(grid.item(row, 0)->text()), texts.dB) << "row " << row + 1;
+        EXPECT_EQ(support::WithPoint(grid.item(row, 1)->text()), texts.gainCoefficient) << "row " << row + 1;
+        EXPECT_EQ(support::WithPoint(grid.item(row, 2)->text()), texts.lossCoefficient) << "row " << row + 1;
         EXPECT_EQ(grid.verticalHeaderItem(row)->text().toStdString(), std::to_string(row + 1));
     }
 }
@@ -55,7 +56,7 @@ TEST_P(ShowTableEdge, ReadsAsGiven)
 {
     const ShowTable window;
     for (int column = 0; column < 3; ++column) {
-        EXPECT_EQ(GridOf(window).item(GetParam().row - 1, column)->text().toStdString(),
+        EXPECT_EQ(support::WithPoint(GridOf(window).item(GetParam().row - 1, column)->text()),
                   GetParam().texts.at(static_cast<std::size_t>(column)));
     }
 }
@@ -193,7 +194,7 @@ TEST(ShowTable, CannotBeTypedInto)
     test::Type(window, QStringLiteral("7"));
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, grid.visualItemRect(grid.item(3, 1)).center());
     EXPECT_EQ(grid.findChild<QLineEdit*>(), nullptr) << "an editor";
-    EXPECT_EQ(grid.item(3, 1)->text(), QStringLiteral("1.072"));
+    EXPECT_EQ(support::WithPoint(grid.item(3, 1)->text()), "1.072");
 }
 
 TEST(ShowTable, ScreenReadersHearTheTable)
@@ -204,7 +205,7 @@ TEST(ShowTable, ScreenReadersHearTheTable)
     EXPECT_EQ(grid.accessibleName(), QStringLiteral("dB values with their gain and loss coefficients"));
     QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(&grid)->tableInterface();
     ASSERT_NE(table, nullptr);
-    EXPECT_EQ(table->cellAt(51, 1)->text(QAccessible::Name), QStringLiteral("3.326"));
+    EXPECT_EQ(support::WithPoint(table->cellAt(51, 1)->text(QAccessible::Name)), "3.326");
     EXPECT_EQ(table->rowDescription(51), QStringLiteral("52"));
     EXPECT_EQ(table->columnDescription(2), QStringLiteral("Loss Coefficient"));
 }
