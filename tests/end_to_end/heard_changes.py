@@ -4,6 +4,7 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
+import program_case  # noqa: E402, F401 - tells where the next module stands
 from quillon_window import with_point  # noqa: E402
 
 KINDS = ("object:property-change:accessible-name", "object:property-change:accessible-description")

@@ -3,10 +3,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalSocket>
-#include <QProcessEnvironment>
 #include <QStandardPaths>
 #include <QTest>
 
+#include <clocale>
 #include <sstream>
 #include <stdexcept>
 
@@ -115,10 +115,8 @@ void PrivateCups::Start()
     m_service.setProcessChannelMode(QProcess::MergedChannels);
     // Tests that are killed leave no service behind.
     m_service.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-    // It answers in one language, whatever the tests run in.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CUPS_LOCALEDIR"), etc);
-    m_service.setProcessEnvironment(environment);
+    // It answers in the language of its client, and tests read its answers: they ask in one, whatever they run in.
+    std::setlocale(LC_MESSAGES, "C.UTF-8"); // plain "C" would count as none chosen
     m_service.start(Program(QStringLiteral("cupsd")),
                     {QStringLiteral("-f"), QStringLiteral("-c"), etc + QStringLiteral("/cupsd.conf"),
                      QStringLiteral("-s"), etc + QStringLiteral("/cups-files.conf")});
