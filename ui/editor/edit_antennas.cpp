@@ -13,6 +13,7 @@
 #include "ui/widgets/catalogue_text.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
+#include "ui/widgets/scrolled_window.h"
 #include "ui/widgets/name_refusal.h"
 
 #include <QGridLayout>
@@ -99,6 +100,7 @@ void EditAntennas::LayOut()
         }
         before = control;
     }
+    ScrollWhatHasNoRoom(*this);
 }
 
 void EditAntennas::Wire()

@@ -6,11 +6,11 @@
 #include "ui/main/system_column.h"
 #include "ui/widgets/card.h"
 #include "ui/widgets/looks.h"
+#include "ui/widgets/scrolled_window.h"
 
 #include <QEvent>
 #include <QGridLayout>
 #include <QMainWindow>
-#include <QScreen>
 #include <QScrollArea>
 
 #include <algorithm>
@@ -195,7 +195,7 @@ void ScrollContent(QMainWindow& window, QWidget& content, const WindowParts& par
     new GrowthLimit(content, parts);
     const QSize wanted = WantedSize(content, parts);
     const QSize start(wanted.width(), qRound(kStartHeight * wanted.height()));
-    window.resize(start.boundedTo(window.screen()->availableSize()));
+    window.resize(start.boundedTo(RoomFor(window)));
 }
 
 } // namespace

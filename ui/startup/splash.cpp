@@ -7,6 +7,7 @@
 #include "ui/widgets/card.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
+#include "ui/widgets/scrolled_window.h"
 #include "ui/widgets/spoken.h"
 
 #include <QGridLayout>
@@ -14,6 +15,7 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <array>
 #include <utility>
 
 namespace quillon::ui {
@@ -37,6 +39,8 @@ constexpr int kGap = 6;
 
 constexpr NoticeLabel::Column kColumn{66, kMargin + kPictureSide + kGap + kMargin};
 constexpr double kTitleFactor = 2.8;
+/// In a large font on a small screen the texts step down, before any of them is cut.
+constexpr std::array kFontSteps{1.0, 0.9, 0.8, 0.7, 0.6, 0.5};
 
 /// Not a splash window by type, which many window managers give no keyboard.
 constexpr Qt::WindowFlags kFlags = Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
@@ -45,7 +49,6 @@ QuietLabel* AddText(QWidget* parent, const QString& name, const QString& text, Q
 {
     auto* label = new NoticeLabel(tone, kColumn, parent);
     label->setObjectName(name);
-    label->setFont(SansSerif(ScaledFont(1.0)));
     label->setText(text);
     return label;
 }
@@ -54,7 +57,6 @@ QuietLabel* AddTitle(QWidget* parent)
 {
     auto* label = new QuietLabel(QuietLabel::Tone::Normal, 1.0, parent);
     label->setObjectName(QStringLiteral("lblTitle"));
-    label->setFont(SansSerif(ScaledFont(kTitleFactor, QFont::Bold)));
     label->setText(kTitle);
     return label;
 }
@@ -96,6 +98,21 @@ void Splash::LayOut()
     row->addWidget(new PolarPicture(kPictureSide, this));
     row->addLayout(texts);
     row->setSizeConstraint(QLayout::SetFixedSize);
+    FitToScreen();
+}
+
+void Splash::FitToScreen()
+{
+    for (const double factor : kFontSteps) {
+        for (QuietLabel* label : findChildren<QuietLabel*>()) {
+            const bool isTitle = label->objectName() == u"lblTitle";
+            label->setFont(SansSerif(isTitle ? ScaledFont(factor * kTitleFactor, QFont::Bold) : ScaledFont(factor)));
+        }
+        const QSize needed = layout()->totalSizeHint();
+        if (needed.boundedTo(RoomFor(*this)) == needed) {
+            return;
+        }
+    }
 }
 
 void Splash::Open()

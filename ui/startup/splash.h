@@ -38,6 +38,7 @@ protected:
 
 private:
     void LayOut();
+    void FitToScreen();
     void EndWait();
     void Unload();
     void ShowMainWindow();

@@ -7,10 +7,10 @@
 #include "ui/widgets/button_keys.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
+#include "ui/widgets/scrolled_window.h"
 
 #include <QBoxLayout>
 #include <QPushButton>
-#include <QScreen>
 
 namespace quillon::ui {
 
@@ -90,7 +90,7 @@ void ShowTable::LayOut()
     column->setSpacing(2 * unit);
     column->addWidget(m_grid);
     column->addLayout(ButtonRow({m_pageUp, m_pageDown}, {m_close}));
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    resize(sizeHint().boundedTo(RoomFor(*this)));
 }
 
 // As given, the first page goes on to row 20 and not to row 21.
