@@ -3,7 +3,6 @@
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
-#include "ui/widgets/scrolled_window.h"
 #include "ui/widgets/spoken.h"
 #include "ui/widgets/titled_frame.h"
 
@@ -83,7 +82,6 @@ void PrintOut::LayOut()
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
-    ScrollWhatHasNoRoom(*this);
 }
 
 } // namespace quillon::ui
