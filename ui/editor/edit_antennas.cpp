@@ -13,8 +13,8 @@
 #include "ui/widgets/catalogue_text.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
-#include "ui/widgets/scrolled_window.h"
 #include "ui/widgets/name_refusal.h"
+#include "ui/widgets/scrolled_window.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
