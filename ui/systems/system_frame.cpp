@@ -4,6 +4,7 @@
 #include "ui/widgets/looks.h"
 #include "ui/widgets/object_names.h"
 #include "ui/widgets/quiet_label.h"
+#include "ui/widgets/scrolled_window.h"
 
 #include <QVBoxLayout>
 
@@ -12,6 +13,8 @@ namespace quillon::ui {
 namespace {
 
 constexpr int kCharacters = 36;
+/// What frames and margins take of a dialog beside each label, in base units.
+constexpr int kAround = 10;
 
 /// Label with room for a line of usual length; a longer one is elided, so that no dialog changes its width with what it
 /// shows.
@@ -29,7 +32,12 @@ public:
         return {kCharacters * fontMetrics().averageCharWidth(), QuietLabel::sizeHint().height()};
     }
 
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Less only where the screen has no room for two of them beside each other.
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        const int most = RoomFor(*window()).width() / 2 - kAround * BaseUnit();
+        return sizeHint().boundedTo({most, sizeHint().height()});
+    }
 };
 
 QString Line(std::string_view brand, std::string_view model)
