@@ -35,7 +35,7 @@ public:
             Type(dialog, "txtSystemName", QStringLiteral("MAIN ISLAND I i \u00FF"));
             Click(dialog, "cmdSave");
         });
-        Give(Command::EditAntennas, [this](QDialog& dialog) { Edit(dialog); });
+        Give(Command::EditAntennas, [](QDialog& dialog) { Edit(dialog); });
         std::map<std::string, std::string> files;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(Files().Path())) {
             if (entry.is_regular_file()) {

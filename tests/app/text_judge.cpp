@@ -3,6 +3,7 @@
 #include "tests/support/pseudo_translator.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon::test {
 
@@ -35,8 +36,8 @@ QRegularExpression PatternOf(const char* text)
 
 } // namespace
 
-TextJudge::TextJudge(const QStringList& names)
-    : m_names(names)
+TextJudge::TextJudge(QStringList names)
+    : m_names(std::move(names))
 {
     // Longer names first, as they may hold shorter ones.
     std::ranges::sort(m_names, [](const QString& a, const QString& b) { return a.size() > b.size(); });

@@ -17,7 +17,7 @@ class TextJudge
 {
 public:
     /// @param names  what the test's own data are called; shown as they are
-    explicit TextJudge(const QStringList& names);
+    explicit TextJudge(QStringList names);
 
     void Judge(const QString& window, const ShownText& shown);
 

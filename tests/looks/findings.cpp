@@ -15,7 +15,7 @@ std::string Describe(const QWidget* widget)
     if (widget == nullptr) {
         return "nobody";
     }
-    const std::string kind = widget->metaObject()->className();
+    std::string kind = widget->metaObject()->className();
     for (const QWidget* named = widget; named != nullptr; named = named->parentWidget()) {
         if (!named->objectName().isEmpty()) {
             return (named == widget ? "" : kind + " in ") + named->objectName().toStdString();

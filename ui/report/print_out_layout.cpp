@@ -3,6 +3,7 @@
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
 #include "ui/widgets/quiet_label.h"
+#include "ui/widgets/scrolled_window.h"
 #include "ui/widgets/spoken.h"
 #include "ui/widgets/titled_frame.h"
 
@@ -10,6 +11,8 @@
 #include <QGridLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace quillon::ui {
 
@@ -19,6 +22,7 @@ enum Row { ListLabels, Lists, NotesLabel, Notes };
 
 constexpr int kListCharacters = 16;
 constexpr int kNotesLines = 8;
+constexpr int kNotesShareOfScreen = 4; ///< at most a quarter of it, so that the buttons below stay on a small one
 
 QuietLabel* AddLabel(QWidget& frame, const QString& name, const QString& text, QWidget* buddy)
 {
@@ -50,7 +54,8 @@ void PrintOut::LayOut()
     BoundWidth(*m_printerList);
     BoundWidth(*m_fonts);
     m_notes->setTabChangesFocus(true);
-    m_notes->setMinimumHeight(kNotesLines * m_notes->fontMetrics().lineSpacing());
+    m_notes->setMinimumHeight(
+        std::min(kNotesLines * m_notes->fontMetrics().lineSpacing(), RoomFor(*this).height() / kNotesShareOfScreen));
 
     auto* grid = new QGridLayout(frame);
     grid->setContentsMargins(0, unit, 0, 0);
