@@ -58,7 +58,7 @@ inline constexpr std::array kPowersOfTen{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7,
     if (magnitude == 0) {
         return {0, 0};
     }
-    if (!(magnitude > 1e-3 && magnitude < 1e7)) {
+    if (!(magnitude > 1e-3 && magnitude < 1e6)) {
         return {};
     }
     // log10(2) is 1233 / 4096: what comes of the float's power of two is the power of ten above the number, or that

@@ -93,7 +93,7 @@ TEST(ScaledNumber, ThereIsNoneWhereItIsNotCertain)
     EXPECT_FALSE(ScaleShortest(2.5F, 0)) << "a half";
     EXPECT_FALSE(ScaleShortest(9e6F, 0));
     EXPECT_FALSE(ScaleShortest(1.0F, 11));
-    EXPECT_FALSE(ScaleToSevenDigits(1e7F));
+    EXPECT_FALSE(ScaleToSevenDigits(1e6F));
     EXPECT_FALSE(ScaleToSevenDigits(0.0009F));
     for (const float value : {std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN()}) {
         EXPECT_FALSE(ScaleShortest(value, 2));
