@@ -52,9 +52,7 @@ std::string PrivateProfile::KeyNames(std::string_view section, std::size_t enoug
 {
     std::string names;
     WalkEntries(section, [&names, enough](const EntryLine& entry) {
-        if (names.size() < enough) {
-            AddName(names, entry.name, enough);
-        }
+        AddName(names, entry.name, enough);
         return names.size() < enough;
     });
     return names;
