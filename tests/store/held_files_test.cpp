@@ -156,5 +156,24 @@ TEST_F(HeldFiles, HoldsALongFileOnlyWhileNoOtherOneIsAskedFor)
     EXPECT_GT(Count("read"), 0);
 }
 
+TEST_F(HeldFiles, HoldsFourMebibytesAndNotAByteMore)
+{
+    constexpr off_t kHalf = 2 * 1024 * 1024;
+    for (const char* name : {"one", "other", "longer"}) {
+        m_folder.Put(name, "[s]\nk=1\n");
+        ASSERT_EQ(::truncate((m_folder / name).c_str(), name == std::string_view("longer") ? kHalf + 1 : kHalf), 0);
+        Settle(m_folder / name);
+    }
+    EXPECT_EQ(Value(m_folder / "one"), "1");
+    EXPECT_EQ(Value(m_folder / "other"), "1");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_folder / "one"), "1");
+    EXPECT_EQ(Count("read"), 0);
+    EXPECT_EQ(Value(m_folder / "longer"), "1");
+    m_calls.FailAt(0, 0);
+    EXPECT_EQ(Value(m_folder / "one"), "1");
+    EXPECT_GT(Count("read"), 0);
+}
+
 } // namespace
 } // namespace quillon::store
