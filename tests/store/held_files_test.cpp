@@ -158,7 +158,7 @@ TEST_F(HeldFiles, HoldsALongFileOnlyWhileNoOtherOneIsAskedFor)
 
 TEST_F(HeldFiles, HoldsFourMebibytesAndNotAByteMore)
 {
-    constexpr off_t kHalf = 2 * 1024 * 1024;
+    constexpr off_t kHalf = off_t{2} * 1024 * 1024;
     for (const char* name : {"one", "other", "longer"}) {
         m_folder.Put(name, "[s]\nk=1\n");
         ASSERT_EQ(::truncate((m_folder / name).c_str(), name == std::string_view("longer") ? kHalf + 1 : kHalf), 0);
