@@ -78,6 +78,7 @@ private:
     void TypeFiltered(QKeyEvent* event);
     void CompleteText();
     void TakeEnter();
+    bool PassOn(QEvent* key);
     bool PopupKeyPress(QKeyEvent* event);
     bool PopupKeyRelease(QKeyEvent* event);
     void TakePopupEnter(bool repeated);

@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -219,13 +220,21 @@ bool CatalogueListBox::eventFilter(QObject* watched, QEvent* event)
         }
         break;
     case QEvent::KeyPress:
-        return PopupKeyPress(static_cast<QKeyEvent*>(event));
+        return view()->isVisible() ? PopupKeyPress(static_cast<QKeyEvent*>(event)) : PassOn(event);
     case QEvent::KeyRelease:
-        return PopupKeyRelease(static_cast<QKeyEvent*>(event));
+        return view()->isVisible() ? PopupKeyRelease(static_cast<QKeyEvent*>(event)) : PassOn(event);
     default:
         break;
     }
     return QComboBox::eventFilter(watched, event);
+}
+
+bool CatalogueListBox::PassOn(QEvent* key)
+{
+    // The display addresses keys to the drop-down list until it has taken its window away. What was typed ahead is for
+    // whatever has the keyboard now.
+    QCoreApplication::sendEvent(window()->windowHandle(), key);
+    return true;
 }
 
 bool CatalogueListBox::PopupKeyPress(QKeyEvent* event)

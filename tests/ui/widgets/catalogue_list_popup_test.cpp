@@ -69,6 +69,49 @@ TEST_F(OpenList, EnterPicksTheHighlightedEntryOnceAndGoesOn)
     EXPECT_TRUE(IsOpen(*m_next));
 }
 
+/// The first list with its drop-down list just closed by Enter, and keys that still reach that: the display addresses
+/// them to the window that was in front when they were pressed.
+class ClosedList : public OpenList
+{
+protected:
+    void SetUp() override
+    {
+        OpenList::SetUp();
+        Open();
+        Click(Qt::Key_Down);
+        test::Press(m_window, Qt::Key_Return);
+        ASSERT_FALSE(IsOpen(*m_list));
+    }
+
+    [[nodiscard]] QWidget& Late() const { return *m_list->view()->window(); }
+};
+
+TEST_F(ClosedList, EnterGoesOnWhenItsReleaseComesLate)
+{
+    test::Release(Late(), Qt::Key_Return);
+    EXPECT_EQ(Chosen(), 1);
+    EXPECT_TRUE(IsOpen(*m_next));
+}
+
+TEST_F(ClosedList, WhatIsTypedAheadGoesToTheNextList)
+{
+    test::Release(Late(), Qt::Key_Return);
+    const QString text = Text();
+    test::Click(Late(), Qt::Key_Z);
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(m_next->currentText(), QStringLiteral("Z"));
+}
+
+TEST_F(ClosedList, TabAndEscapeActOnWhateverHasTheKeyboard)
+{
+    test::Release(Late(), Qt::Key_Return);
+    test::Click(Late(), Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen(*m_next));
+    EXPECT_TRUE(m_next->hasFocus());
+    test::Click(Late(), Qt::Key_Tab);
+    EXPECT_TRUE(m_list->hasFocus()) << "the other one of two";
+}
+
 TEST_F(OpenList, EnterOnTheChosenEntryTellsOnceAndGoesOn)
 {
     m_list->Choose(1);
