@@ -228,12 +228,18 @@ bool ProfileStore::Rewrite(const Location& location, std::span<const ProfileEdit
     if (!document) {
         return false;
     }
-    // The last change is made in the writing only: the usual single one needs no second copy of the text.
+    // The last change is made in the writing only: the usual single one needs no second copy of the text. Several may
+    // take one another back.
+    const std::string before(edits.size() > 1 ? document->profile.Bytes() : std::string_view());
     bool isChanged = false;
     std::optional<TextChange> last;
     for (const ProfileEdit& edit : edits) {
         isChanged = document->profile.Make(last) || isChanged;
         last = ChangeBy(edit, document->profile);
+    }
+    if (edits.size() > 1) {
+        document->profile.Make(std::exchange(last, std::nullopt));
+        isChanged = document->profile.Bytes() != before;
     }
     if (!isChanged && !last) {
         Hold(std::move(*document));

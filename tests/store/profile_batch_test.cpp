@@ -98,6 +98,37 @@ TEST_F(ProfileBatchTest, CreatesAMissingFile)
     EXPECT_EQ(m_folder.Get("f.dat"), "[s]\r\na=1\r\n");
 }
 
+TEST_F(ProfileBatchTest, CreatesNoFileForEditsThatTakeOneAnotherBack)
+{
+    m_file = m_folder / "new.dat";
+    ProfileBatch batch(m_store, m_file);
+    Write("a", "2");
+    EXPECT_TRUE(m_store.Edit(m_file, {"s", {}, {}}));
+    EXPECT_TRUE(batch.Commit());
+    EXPECT_FALSE(fs::exists(m_file));
+}
+
+TEST_F(ProfileBatchTest, WritesNothingWhenItsEditsTakeOneAnotherBack)
+{
+    ProfileBatch batch(m_store, m_file);
+    Write("a", "2");
+    Write("b", "3");
+    Write("a", "1");
+    EXPECT_TRUE(m_store.Edit(m_file, {"s", "b", {}}));
+    EXPECT_TRUE(batch.Commit());
+    EXPECT_EQ(m_folder.Get("f.dat"), "[s]\na=1\n");
+    EXPECT_EQ(std::count(m_calls.Made().begin(), m_calls.Made().end(), "write"), 0);
+}
+
+TEST_F(ProfileBatchTest, EmptiesAFileWhoseOnlySectionItRemoves)
+{
+    ProfileBatch batch(m_store, m_file);
+    Write("a", "2");
+    EXPECT_TRUE(m_store.Edit(m_file, {"s", {}, {}}));
+    EXPECT_TRUE(batch.Commit());
+    EXPECT_EQ(m_folder.Get("f.dat"), "");
+}
+
 TEST_F(ProfileBatchTest, KeepsAChangeMadeMeanwhileFromOutside)
 {
     ProfileBatch batch(m_store, m_file);
