@@ -127,6 +127,14 @@ void CheckMaker(Editor& editor, const std::string& maker)
     }
 }
 
+/// Whether something else than a file stands where the new text of a file would be put together.
+bool IsBlocked(const Editor& editor, const std::string& path)
+{
+    const std::size_t name = path.rfind('/') + 1;
+    const MemoryFiles::Kind kind = editor.files.KindOf(path.substr(0, name) + "." + path.substr(name) + ".tmp");
+    return kind != MemoryFiles::Kind::File && kind != MemoryFiles::Kind::Missing;
+}
+
 void CheckModel(Editor& editor, const std::string& maker, const std::string& typed, store::IfModelFound ifFound)
 {
     const bool isName = IsEntryName(typed, 254);
@@ -135,6 +143,7 @@ void CheckModel(Editor& editor, const std::string& maker, const std::string& typ
     const std::string path = PathOf(editor, maker);
     const std::string before(editor.files.Get(path));
     const MemoryFiles::Kind kind = editor.files.KindOf(path);
+    const bool isBlocked = IsBlocked(editor, path);
     const bool isMet = ifFound == store::IfModelFound::Refuse && editor.commands.FirstModelWith(maker, model);
     const bool answer = editor.commands.AddModel(maker, model, ifFound);
     const ProfileModel after(std::string(editor.files.Get(path)));
@@ -143,7 +152,7 @@ void CheckModel(Editor& editor, const std::string& maker, const std::string& typ
            "a new model has a gain type");
     Expect(!answer || !isMet, "a model like one that is there waits for the user");
     const bool isFile = kind == MemoryFiles::Kind::File || kind == MemoryFiles::Kind::Missing;
-    Expect(answer || isMet || !isName || !isFile || !store::IsMakerName(maker), "a good name is taken");
+    Expect(answer || isMet || !isName || !isFile || isBlocked || !store::IsMakerName(maker), "a good name is taken");
     if (answer && isName && after.Sections().size() < 8) {
         const std::optional<std::string> found = editor.commands.FirstModelWith(maker, model);
         Expect(found && !found->empty(), "a new model is found by its name");
