@@ -19,10 +19,16 @@ NEW_MODEL = "dish"
 class Windows(Session):
     """A session of which nothing is taken for granted: what the user is told is told by a window."""
 
-    def wait_for_editors(self, count):
-        """A message of the editor bears the editor's title."""
-        self.wait_until(f"{count} windows titled {EDITOR}", lambda: self._screen.titles().count(EDITOR) == count)
-        self.wait_for(EDITOR)
+    _editor = 0  # the window of the editor
+
+    def answer_editor(self):
+        """Waits for a message of the editor, which bears the editor's title, and closes it."""
+        self.wait_until(f"a message titled {EDITOR}", lambda: self._is_message(self._screen.focused_window()))
+        self.press("Return")
+        self.wait_until("the editor", lambda: self._screen.focused_window() == self._editor)
+
+    def _is_message(self, window):
+        return window not in (0, self._editor) and self._screen.focused() == EDITOR
 
     def save(self, name, exists):
         self.press("Control_L s")
@@ -50,6 +56,7 @@ class Windows(Session):
     def open_editor(self):
         self.press("Control_L m")
         self.wait_for(EDITOR)
+        self._editor = self._screen.focused_window()
 
     def choose_model(self):
         """In the editor: the maker, the model, and its fields opened for editing."""
@@ -120,9 +127,7 @@ def fail(windows, name, save):
         return windows.asks_when_closed()
     windows.open_editor()
     save(windows)
-    windows.wait_for_editors(2)
-    windows.press("Return")
-    windows.wait_for_editors(1)
+    windows.answer_editor()
     windows.leave_editor()
     return True
 
@@ -152,7 +157,10 @@ def try_windows(place, windows):
         yield f"{place.name}, {name}", findings
     place.relieve()
     for name, save, stands in saves(place.folder):
-        succeed(windows, name, save)
+        try:
+            succeed(windows, name, save)
+        except NotSeen as missing:
+            raise NotSeen(f"{place.name} relieved, {name}: {missing}") from missing
         yield f"{place.name} relieved, {name}", [] if stands() else ["no success when there is room again"]
 
 

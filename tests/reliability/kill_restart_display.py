@@ -73,11 +73,16 @@ class Display:
         windows = [inner for outer in self._children(self._root) for inner in [outer, *self._children(outer)]]
         return [title for window in windows if (title := self._title(window)) and self._is_visible(window)]
 
-    def focused(self):
-        """Title of the window that has the keyboard."""
+    def focused_window(self):
+        """The window that has the keyboard, 0 when none has it."""
         window, revert = Window(), ctypes.c_int()
         X.XGetInputFocus(self._display, ctypes.byref(window), ctypes.byref(revert))
-        return self._title(window.value) if window.value > 1 else None
+        return window.value if window.value > 1 else 0
+
+    def focused(self):
+        """Title of the window that has the keyboard."""
+        window = self.focused_window()
+        return self._title(window) if window else None
 
     def press(self, keys):
         """Presses a key, with others held: "Return", "Control_L s"."""
