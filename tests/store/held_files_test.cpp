@@ -12,6 +12,22 @@ using Names = std::vector<std::string>;
 
 class HeldFiles : public ProfileStoreTest
 {
+protected:
+    /// Asks for the value of a file in the folder. @return whether the file is read for that
+    bool IsRead(const std::string& file, const std::string& value = "1")
+    {
+        m_calls.FailAt(0, 0);
+        EXPECT_EQ(Value(m_folder / file), value);
+        return Count("read") > 0;
+    }
+
+    /// Puts a file of a length there that has been so for long.
+    void PutLong(const std::string& file, off_t length)
+    {
+        m_folder.Put(file, "[s]\nk=1\n");
+        ASSERT_EQ(::truncate((m_folder / file).c_str(), length), 0);
+        Settle(m_folder / file);
+    }
 };
 
 TEST_F(HeldFiles, ReadsAFileOnceAndThenLooksAtItsStampOnly)
@@ -130,49 +146,32 @@ TEST_F(HeldFiles, HoldsTheLastFilesOnly)
         Settle(m_folder.Put(name, "[s]\nk=" + name + "\n"));
         EXPECT_EQ(Value(m_folder / name), name);
     }
-    m_calls.FailAt(0, 0);
-    EXPECT_EQ(Value(m_folder / "1"), "1");
-    EXPECT_EQ(Count("read"), 0);
-    EXPECT_EQ(Value(m_folder / "0"), "0");
-    EXPECT_GT(Count("read"), 0);
+    EXPECT_FALSE(IsRead("1", "1"));
+    EXPECT_TRUE(IsRead("0", "0"));
 }
 
 TEST_F(HeldFiles, HoldsALongFileOnlyWhileNoOtherOneIsAskedFor)
 {
-    for (const char* name : {"long", "short"}) {
-        Settle(m_folder.Put(name, "[s]\nk=1\n"));
-    }
-    ASSERT_EQ(::truncate((m_folder / "long").c_str(), 5'000'000), 0);
-    Settle(m_folder / "long");
-    EXPECT_EQ(Value(m_folder / "long"), "1");
-    m_calls.FailAt(0, 0);
-    EXPECT_EQ(Value(m_folder / "long"), "1");
-    EXPECT_EQ(Count("read"), 0);
-    EXPECT_EQ(Value(m_folder / "short"), "1");
-    m_calls.FailAt(0, 0);
-    EXPECT_EQ(Value(m_folder / "short"), "1");
-    EXPECT_EQ(Count("read"), 0);
-    EXPECT_EQ(Value(m_folder / "long"), "1");
-    EXPECT_GT(Count("read"), 0);
+    PutLong("long", 5'000'000);
+    PutLong("short", 8);
+    EXPECT_TRUE(IsRead("long"));
+    EXPECT_FALSE(IsRead("long"));
+    EXPECT_TRUE(IsRead("short"));
+    EXPECT_FALSE(IsRead("short"));
+    EXPECT_TRUE(IsRead("long"));
 }
 
 TEST_F(HeldFiles, HoldsFourMebibytesAndNotAByteMore)
 {
     constexpr off_t kHalf = off_t{2} * 1024 * 1024;
-    for (const char* name : {"one", "other", "longer"}) {
-        m_folder.Put(name, "[s]\nk=1\n");
-        ASSERT_EQ(::truncate((m_folder / name).c_str(), name == std::string_view("longer") ? kHalf + 1 : kHalf), 0);
-        Settle(m_folder / name);
-    }
-    EXPECT_EQ(Value(m_folder / "one"), "1");
-    EXPECT_EQ(Value(m_folder / "other"), "1");
-    m_calls.FailAt(0, 0);
-    EXPECT_EQ(Value(m_folder / "one"), "1");
-    EXPECT_EQ(Count("read"), 0);
-    EXPECT_EQ(Value(m_folder / "longer"), "1");
-    m_calls.FailAt(0, 0);
-    EXPECT_EQ(Value(m_folder / "one"), "1");
-    EXPECT_GT(Count("read"), 0);
+    PutLong("one", kHalf);
+    PutLong("other", kHalf);
+    PutLong("longer", kHalf + 1);
+    EXPECT_TRUE(IsRead("one"));
+    EXPECT_TRUE(IsRead("other"));
+    EXPECT_FALSE(IsRead("one"));
+    EXPECT_TRUE(IsRead("longer"));
+    EXPECT_TRUE(IsRead("one"));
 }
 
 } // namespace
