@@ -19,18 +19,17 @@ constexpr int kRounds = 6; ///< of events until nothing moves any more
 
 ProgramOnShow::ProgramOnShow()
 {
-    std::filesystem::copy(QUILLON_DATA_FOLDER, m_files.Path(), std::filesystem::copy_options::recursive);
-    m_notifier.SetOwner(&m_window);
-    m_window.Load();
-    m_window.show();
-    m_window.activateWindow();
+    std::filesystem::copy(QUILLON_DATA_FOLDER, m_program.files.Path(), std::filesystem::copy_options::recursive);
+    Window().Load();
+    Window().show();
+    Window().activateWindow();
 }
 
 void ProgramOnShow::Choose(int system, const QString& cable, const QString& antenna, const QString& band)
 {
     const QString lists = system == 1 ? QStringLiteral("cboSystemOne") : QStringLiteral("cboSystemTwo");
     const auto choose = [&](const char* kind, int index, const QString& entry) {
-        Choose(m_window, QStringLiteral("%1%2(%3)").arg(lists, QString::fromLatin1(kind)).arg(index), entry);
+        Choose(Window(), QStringLiteral("%1%2(%3)").arg(lists, QString::fromLatin1(kind)).arg(index), entry);
     };
     choose("Coax", 0, cable.section(u'/', 0, 0));
     choose("Coax", 1, cable.section(u'/', 1));

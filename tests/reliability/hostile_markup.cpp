@@ -2,15 +2,10 @@
 //
 // Each is a maker's, a model's, a cable's and a saved pair's, and is shown as it is in lists, labels, messages, tool
 // tips and on the printed page. Nothing that it names is ever opened.
-#include "app/dialogs.h"
 #include "tests/reliability/hostile_markup_inspector.h"
 #include "tests/support/find_widget.h"
-#include "tests/support/recording_hooks.h"
-#include "tests/support/recording_shell.h"
-#include "tests/support/temp_folder.h"
-#include "tests/ui/report/fake_printers.h"
+#include "tests/support/whole_program.h"
 #include "tests/ui/report/printed_page.h"
-#include "ui/platform/message_notifier.h"
 #include "ui/startup/splash.h"
 #include "ui/widgets/catalogue_list_box.h"
 
@@ -30,7 +25,6 @@
 
 #include <cstdio>
 #include <functional>
-#include <memory>
 
 namespace quillon::reliability {
 namespace {
@@ -128,21 +122,22 @@ public:
     {
         const std::string section = "[" + name.toStdString() + "]\r\n";
         const std::string maker = m_maker.toStdString();
-        m_files.Put("Antennas/" + maker + ".DAT", section + "GainType=" + name.toStdString() + "\r\nGain20=50\r\n");
-        m_files.Put("Antennas/ANTENNAS.ZEP", "[" + maker + "]\r\nNumEntries=" + name.toStdString() +
-                                                 "\r\nDateCreated=" + name.toStdString() +
-                                                 "\r\nLastModified=" + name.toStdString() + "\r\n");
-        m_files.Put("Coax/" + maker + ".DAT", section + "Loss10=1\r\nLoss50=2\r\nSpec1=" + name.toStdString() + "\r\n");
-        m_files.Put("QuillonSystems.dat", "");
-        m_notifier.SetOwner(&m_window);
+        m_program.files.Put("Antennas/" + maker + ".DAT",
+                            section + "GainType=" + name.toStdString() + "\r\nGain20=50\r\n");
+        m_program.files.Put("Antennas/ANTENNAS.ZEP", "[" + maker + "]\r\nNumEntries=" + name.toStdString() +
+                                                         "\r\nDateCreated=" + name.toStdString() +
+                                                         "\r\nLastModified=" + name.toStdString() + "\r\n");
+        m_program.files.Put("Coax/" + maker + ".DAT",
+                            section + "Loss10=1\r\nLoss50=2\r\nSpec1=" + name.toStdString() + "\r\n");
+        m_program.files.Put("QuillonSystems.dat", "");
         QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { LookAtMessage(); });
         m_watch.start(0);
     }
 
     void Go()
     {
-        m_window.Load();
-        m_window.show();
+        m_program.window.Load();
+        m_program.window.show();
         ChooseSystems();
         In(Command::SaveSystem, [this](QDialog& dialog) { Save(dialog); });
         In(Command::SaveSystem, [this](QDialog& dialog) { Save(dialog); }); // the question whether to replace it
@@ -153,7 +148,7 @@ public:
         for (const Command command : {Command::About, Command::ShowDBTable}) {
             In(command, [](QDialog&) {});
         }
-        emit m_window.CommandGiven(Command::HelpContents);
+        emit m_program.window.CommandGiven(Command::HelpContents);
         m_inspector.Compare(QStringLiteral("messages"), QString::number(m_messages), QStringLiteral("4"));
     }
 
@@ -175,11 +170,11 @@ private:
         for (const char* system : {"One", "Two"}) {
             const QString coax = QStringLiteral("cboSystem%1Coax(").arg(QLatin1String(system));
             const QString antenna = QStringLiteral("cboSystem%1Antenna(").arg(QLatin1String(system));
-            Choose(List(m_window, coax + QStringLiteral("0)")), m_maker);
-            Choose(List(m_window, coax + QStringLiteral("1)")), m_name);
-            Choose(List(m_window, antenna + QStringLiteral("0)")), m_maker);
-            Choose(List(m_window, antenna + QStringLiteral("1)")), m_name);
-            Choose(List(m_window, antenna + QStringLiteral("2)")), QStringLiteral("20 Meters"));
+            Choose(List(m_program.window, coax + QStringLiteral("0)")), m_maker);
+            Choose(List(m_program.window, coax + QStringLiteral("1)")), m_name);
+            Choose(List(m_program.window, antenna + QStringLiteral("0)")), m_maker);
+            Choose(List(m_program.window, antenna + QStringLiteral("1)")), m_name);
+            Choose(List(m_program.window, antenna + QStringLiteral("2)")), QStringLiteral("20 Meters"));
         }
         LookAtAll();
     }
@@ -200,9 +195,9 @@ private:
 
     void LoadDamaged()
     {
-        m_files.Put("QuillonSystems.dat", "[SavedSystems]\r\nSystem:1=" + m_name.toStdString() + "\r\n[" +
-                                              m_name.toStdString() + "]\r\nSystem1AntennaGain=" + m_name.toStdString() +
-                                              "\r\n");
+        m_program.files.Put("QuillonSystems.dat", "[SavedSystems]\r\nSystem:1=" + m_name.toStdString() + "\r\n[" +
+                                                      m_name.toStdString() +
+                                                      "]\r\nSystem1AntennaGain=" + m_name.toStdString() + "\r\n");
         In(Command::LoadSystem, [this](QDialog& dialog) { Load(dialog); });
     }
 
@@ -211,8 +206,8 @@ private:
         test::Find<QPlainTextEdit>(dialog, QStringLiteral("txtNotes")).setPlainText(m_name);
         test::Find<QPushButton>(dialog, QStringLiteral("cmdPrint")).click();
         LookAtAll();
-        m_files.Put("page.pdf", m_printers.jobs.at(0).pdf.toStdString());
-        const test::PrintedPage page(QString::fromStdString((m_files / "page.pdf").string()));
+        m_program.files.Put("page.pdf", m_program.printers.jobs.at(0).pdf.toStdString());
+        const test::PrintedPage page(QString::fromStdString((m_program.files / "page.pdf").string()));
         // Letters that are drawn as one are read back as one.
         const auto withoutBlanks = [](const QString& line) {
             return line.normalized(QString::NormalizationForm_KC).remove(u' ');
@@ -260,7 +255,7 @@ private:
             dialog->reject();
         });
         opened.start(0);
-        emit m_window.CommandGiven(command);
+        emit m_program.window.CommandGiven(command);
         LookAtAll();
     }
 
@@ -287,17 +282,7 @@ private:
     HostileMarkupInspector& m_inspector;
     int m_messages = 0;
     QTimer m_watch;
-    support::TempFolder m_files;
-    store::ProgramFolder m_folder{(m_files / "Quillon").string()};
-    engine::AntennaSystems m_systems;
-    support::RecordingHooks m_hooks;
-    ui::MessageNotifier m_notifier;
-    std::shared_ptr<store::ProfileStore> m_store = std::make_shared<store::ProfileStore>();
-    store::Catalogue m_catalogue{m_folder, m_store};
-    test::FakePrinters m_printers;
-    support::RecordingShell m_shell;
-    ui::Quillon m_window{{m_systems, m_hooks, m_notifier, m_catalogue}};
-    Dialogs m_dialogs{{m_window, m_folder, m_catalogue, *m_store, m_notifier, m_printers, m_shell}};
+    support::WholeProgram m_program;
 };
 
 /// Whether the watch sees a label in rich text open the picture, so that it would see others.
