@@ -87,6 +87,7 @@ void PrintOut::LayOut()
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
     }
+    ScrollWhatHasNoRoom(*this);
 }
 
 } // namespace quillon::ui

@@ -9,6 +9,7 @@
 #include "ui/widgets/card.h"
 #include "ui/widgets/layout_parts.h"
 #include "ui/widgets/looks.h"
+#include "ui/widgets/scrolled_window.h"
 
 #include <QGridLayout>
 #include <QPushButton>
@@ -99,6 +100,7 @@ void About::LayOut()
 
     setTabOrder(m_mail, m_sendMail);
     setTabOrder(m_sendMail, m_close);
+    ScrollWhatHasNoRoom(*this);
 }
 
 void About::Open()

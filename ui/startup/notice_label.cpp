@@ -3,6 +3,7 @@
 #include "ui/widgets/looks.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QScreen>
 #include <QtMath>
@@ -29,6 +30,14 @@ QSize NoticeLabel::sizeHint() const
 QSize NoticeLabel::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+bool NoticeLabel::event(QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationFontChange) {
+        updateGeometry(); // the column is as wide as that font has it, whatever the label's own is
+    }
+    return QuietLabel::event(event);
 }
 
 } // namespace quillon::ui

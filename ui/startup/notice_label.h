@@ -22,6 +22,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     Column m_column;
 };

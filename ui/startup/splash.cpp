@@ -108,6 +108,7 @@ void Splash::FitToScreen()
             const bool isTitle = label->objectName() == u"lblTitle";
             label->setFont(SansSerif(isTitle ? ScaledFont(factor * kTitleFactor, QFont::Bold) : ScaledFont(factor)));
         }
+        layout()->invalidate();
         const QSize needed = layout()->totalSizeHint();
         if (needed.boundedTo(RoomFor(*this)) == needed) {
             return;
@@ -115,12 +116,17 @@ void Splash::FitToScreen()
     }
 }
 
-void Splash::Open()
+void Splash::PlaceInMiddle()
 {
     adjustSize();
     QRect place(QPoint(), size());
     place.moveCenter(screen()->availableGeometry().center());
     move(place.topLeft());
+}
+
+void Splash::Open()
+{
+    PlaceInMiddle();
     show();
     activateWindow();
     m_timer.start(m_waits.alone);
@@ -154,6 +160,11 @@ bool Splash::event(QEvent* event)
     // A dialog or a message that the main window opens must not come to stand behind this window.
     if (event->type() == QEvent::WindowBlocked) {
         Unload();
+    }
+    // Settings of some desktops come with the first events only, when this window is laid out already.
+    if (event->type() == QEvent::ApplicationFontChange) {
+        FitToScreen();
+        PlaceInMiddle();
     }
     return QWidget::event(event);
 }

@@ -39,6 +39,7 @@ protected:
 private:
     void LayOut();
     void FitToScreen();
+    void PlaceInMiddle();
     void EndWait();
     void Unload();
     void ShowMainWindow();

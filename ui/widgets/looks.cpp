@@ -157,6 +157,15 @@ void MakeSelectionReadable(QPalette& palette)
     }
 }
 
+void MakeRowsReadable(QPalette& palette)
+{
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::AlternateBase,
+                         Standing(palette.color(group, QPalette::AlternateBase), palette.color(group, QPalette::Base),
+                                  0, kReadable, {palette.color(group, QPalette::Text)}));
+    }
+}
+
 QString PlainToolTip(const QString& text)
 {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;

@@ -44,6 +44,9 @@ constexpr double kVisible = 3;
 /// Changes the colours of what is selected where its text would be hard to read, as it is in the built-in palettes.
 void MakeSelectionReadable(QPalette& palette);
 
+/// Gives every other row of a table a ground closer to that of the rest when its text could hardly be read.
+void MakeRowsReadable(QPalette& palette);
+
 /// A text that comes from a file or a person, safe for places that would take it as rich text (tool tips).
 [[nodiscard]] QString PlainToolTip(const QString& text);
 

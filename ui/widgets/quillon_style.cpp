@@ -67,6 +67,7 @@ void QuillonStyle::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
     MakeSelectionReadable(palette);
+    MakeRowsReadable(palette);
 }
 
 int QuillonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 
 #include <optional>
@@ -192,7 +193,7 @@ TEST_F(AboutTest, ALongNameOfTheSystemIsNotCut)
     system = SystemVersion{SystemVersion::kUnnumbered, QStringLiteral("long name ").repeated(40), 1, 2, {}, {}};
     about.Prepare();
     test::ShowActive(about);
-    EXPECT_GT(about.height(), height);
+    EXPECT_TRUE(QTest::qWaitFor([this, height] { return about.height() > height; }));
     for (const char* name : {"lblVersion", "lblAppInfo"}) {
         const auto& label = test::Find<QLabel>(about, QString::fromUtf8(name));
         EXPECT_GE(label.height(), label.heightForWidth(label.width())) << name;

@@ -95,5 +95,22 @@ TEST(Splash, NoTextIsCutWithAnyFontAndItFitsTheScreen)
     }
 }
 
+TEST(Splash, FollowsAFontThatComesWhenItIsOpen)
+{
+    const test::ApplicationFont font;
+    Splash splash([] {}, {});
+    splash.Open();
+    const QSize before = splash.size();
+    test::ApplicationFont::SetPointSize(16);
+    Splash anew([] {}, {});
+    const auto& label = test::Find<QLabel>(splash, QStringLiteral("lblDisclaimer"));
+    const auto& wanted = test::Find<QLabel>(anew, QStringLiteral("lblDisclaimer"));
+    EXPECT_GT(splash.width(), before.width());
+    EXPECT_EQ(label.font().pointSizeF(), wanted.font().pointSizeF());
+    EXPECT_EQ(label.size(), label.sizeHint());
+    const QPoint off = splash.geometry().center() - splash.screen()->availableGeometry().center();
+    EXPECT_LE(off.manhattanLength(), 2);
+}
+
 } // namespace
 } // namespace quillon::ui

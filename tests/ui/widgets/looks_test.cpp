@@ -137,6 +137,29 @@ TEST(Selection, ThatIsHardToReadGetsDarkerInALightPalette)
     EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::Highlight), palette.color(QPalette::Highlight));
 }
 
+/// The ground of every other row as it comes out of MakeRowsReadable, under light grey text.
+QColor OtherRows(QPalette::ColorGroup group, const QColor& ground)
+{
+    QPalette palette = Dark();
+    palette.setColor(QPalette::Text, QColor(176, 176, 176));
+    palette.setColor(QPalette::Base, QColor(20, 20, 20));
+    palette.setColor(QPalette::AlternateBase, ground);
+    MakeRowsReadable(palette);
+    return palette.color(group, QPalette::AlternateBase);
+}
+
+TEST(Rows, OfAReadableGroundStayAsTheyAre)
+{
+    EXPECT_EQ(OtherRows(QPalette::Active, QColor(60, 60, 60)), QColor(60, 60, 60)) << "5.1 to 1";
+}
+
+TEST(Rows, ThatAreHardToReadGetAGroundCloserToThatOfTheOthers)
+{
+    // The text has 3.0 to 1 on it, 4.49 after 0.35 of the way and 4.8 after 0.40.
+    EXPECT_EQ(OtherRows(QPalette::Active, QColor(94, 94, 94)), QColor(64, 64, 64));
+    EXPECT_EQ(OtherRows(QPalette::Inactive, QColor(94, 94, 94)), QColor(64, 64, 64));
+}
+
 TEST(Selection, ThatIsHardToReadGetsDarkTextInADarkPalette)
 {
     const QPalette palette = Readable(Dark(), QColor(48, 140, 198), QColor(240, 240, 240));
