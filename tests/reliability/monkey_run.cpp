@@ -194,13 +194,23 @@ void MonkeyRun::MeetQuestion(QWidget& box)
     });
 }
 
+/// Whether a command is at a message or question. It goes on only when that box is destroyed: one that has been
+/// answered is out of sight while further events of the same burst come.
+bool MonkeyRun::IsAsking()
+{
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        m_message = box;
+    }
+    return m_message != nullptr;
+}
+
 std::optional<std::string> MonkeyRun::Look()
 {
     MeetFrontWindow();
     if (auto wrong = m_files.Check()) {
         return wrong;
     }
-    if (m_files.IsPermitted() && qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) {
+    if (m_files.IsPermitted() && !IsAsking()) {
         m_files.Revoke();
     }
     if (auto wrong = WindowOffScreen()) {

@@ -38,6 +38,7 @@ private:
     void NoteCommand();
     void MeetFrontWindow();
     void MeetQuestion(QWidget& box);
+    [[nodiscard]] bool IsAsking();
     [[nodiscard]] std::optional<std::string> Look();
 
     [[nodiscard]] bool IsOver() const { return m_isBroken || m_journal.Events() >= m_count; }
@@ -54,6 +55,7 @@ private:
     std::optional<MarkerModel> m_markers;
     QPointer<QWidget> m_front;      ///< the window in front at the last look
     QPointer<QWidget> m_loadDialog; ///< once it has been seen
+    QPointer<QWidget> m_message;    ///< the last message or question that was in front
     bool m_wasLoading = false;
     bool m_isBroken = false;
     bool m_isLate = false; ///< an event was due while a computation let events run
