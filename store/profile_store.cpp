@@ -32,6 +32,19 @@ bool IsSettled(const FileStamp& stamp)
     return nanoseconds(stamp.changed) + kLongestStep < now;
 }
 
+/// What several edits come to, as a change of the whole text; nothing when they take one another back.
+std::optional<TextChange> ChangeByAll(std::span<const ProfileEdit> edits, const PrivateProfile& profile)
+{
+    PrivateProfile changed(profile.Bytes());
+    for (const ProfileEdit& edit : edits) {
+        Apply(changed, edit);
+    }
+    if (changed.Bytes() == profile.Bytes()) {
+        return std::nullopt;
+    }
+    return TextChange{0, profile.Bytes().size(), std::string(changed.Bytes())};
+}
+
 } // namespace
 
 ProfileStore::ProfileStore()
@@ -228,27 +241,16 @@ bool ProfileStore::Rewrite(const Location& location, std::span<const ProfileEdit
     if (!document) {
         return false;
     }
-    // The last change is made in the writing only: the usual single one needs no second copy of the text. Several may
-    // take one another back.
-    const std::string before(edits.size() > 1 ? document->profile.Bytes() : std::string_view());
-    bool isChanged = false;
-    std::optional<TextChange> last;
-    for (const ProfileEdit& edit : edits) {
-        isChanged = document->profile.Make(last) || isChanged;
-        last = ChangeBy(edit, document->profile);
-    }
-    if (edits.size() > 1) {
-        document->profile.Make(std::exchange(last, std::nullopt));
-        isChanged = document->profile.Bytes() != before;
-    }
-    if (!isChanged && !last) {
+    // The usual single change is made in the writing only: no second copy of the text is needed for it.
+    const PrivateProfile& profile = document->profile;
+    const std::optional<TextChange> change =
+        edits.size() == 1 ? ChangeBy(edits.front(), profile) : ChangeByAll(edits, profile);
+    if (!change) {
         Hold(std::move(*document));
         return true;
     }
-    const std::string_view text = document->profile.Bytes();
-    const TextChange change = last.value_or(TextChange{text.size(), 0, {}});
-    const std::size_t size = text.size() - change.length + change.text.size();
-    return size <= kLargestFile && ReplaceFile(m_calls, location.path, change.Parts(text));
+    const std::size_t size = profile.Bytes().size() - change->length + change->text.size();
+    return size <= kLargestFile && ReplaceFile(m_calls, location.path, change->Parts(profile.Bytes()));
 }
 
 std::string ProfileStore::BeginBatch(const std::string& file)

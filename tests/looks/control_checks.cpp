@@ -138,10 +138,6 @@ bool IsOutlineSeen(QWidget& root, const QWidget& control, const QRect& outlined)
     return OutlineShare(part, shape, depth) >= (isRound ? kCircleShare : kOutlineShare);
 }
 
-} // namespace
-
-namespace {
-
 constexpr int kFocusMargin = 3; ///< a mark may lie so far around its control
 /// A mark of the focus is as long as the control is wide and high together, times this.
 constexpr double kMarkLength = 0.5;
