@@ -7,7 +7,10 @@
 #include "ui/table/show_table.h"
 
 #include <QApplication>
+#include <QScopeGuard>
 #include <QUrl>
+
+#include <utility>
 
 namespace quillon {
 
@@ -26,6 +29,24 @@ void Dialogs::Show(ui::Command command)
     if (QApplication::activeModalWidget() != nullptr) {
         return;
     }
+    // One that has just been closed returns only when all that was typed and clicked together with that is through.
+    if (m_isShowing) {
+        m_next = command;
+        return;
+    }
+    m_isShowing = true;
+    const auto isOver = qScopeGuard([this] {
+        m_isShowing = false;
+        m_next.reset();
+    });
+    CarryOut(command);
+    while (const std::optional<ui::Command> next = std::exchange(m_next, std::nullopt)) {
+        CarryOut(*next);
+    }
+}
+
+void Dialogs::CarryOut(ui::Command command)
+{
     switch (command) {
     case ui::Command::SaveSystem:
         return SaveSystem().Open();

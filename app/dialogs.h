@@ -15,6 +15,7 @@
 #include "ui/systems/save_system.h"
 
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -39,9 +40,12 @@ class Dialogs : public QObject
 public:
     explicit Dialogs(const DialogParts& parts);
 
+    /// A command that comes while a dialog is open does nothing; one that comes before a closed dialog has returned
+    /// waits for that.
     void Show(ui::Command command);
 
 private:
+    void CarryOut(ui::Command command);
     [[nodiscard]] ui::SaveSystem& SaveSystem();
     [[nodiscard]] ui::LoadSystem& LoadSystem();
     [[nodiscard]] ui::PrintSystemReport& Report();
@@ -63,6 +67,8 @@ private:
     ui::About* m_about = nullptr;
     ui::HelpWindow* m_help = nullptr;
     ui::HelpKey m_helpKey;
+    bool m_isShowing = false;          ///< a command is being carried out
+    std::optional<ui::Command> m_next; ///< the last one that came meanwhile
 };
 
 } // namespace quillon

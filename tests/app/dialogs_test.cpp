@@ -91,5 +91,26 @@ TEST_F(DialogsTest, ACommandThatComesWhileADialogIsOpenOpensNothing)
     });
 }
 
+TEST_F(DialogsTest, ACommandThatComesBeforeAClosedDialogHasReturnedIsCarriedOutThen)
+{
+    for (const ui::Command command : {ui::Command::EditAntennas, ui::Command::LoadSystem}) {
+        QStringList opened;
+        QTimer closing;
+        QObject::connect(&closing, &QTimer::timeout, Window(), [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                opened += dialog->objectName();
+                dialog->reject();
+                if (opened.size() == 1) {
+                    emit Main().CommandGiven(command);
+                }
+            }
+        });
+        closing.start(0);
+        emit Main().CommandGiven(ui::Command::EditAntennas);
+        EXPECT_EQ(opened.join(u' ').toStdString(),
+                  command == ui::Command::EditAntennas ? "EditAntennas EditAntennas" : "EditAntennas LoadSystem");
+    }
+}
+
 } // namespace
 } // namespace quillon
