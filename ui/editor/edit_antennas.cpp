@@ -45,7 +45,7 @@ bool ChooseEqual(CatalogueListBox& list, const QString& text)
 /// A list that is left shows what is chosen in it, whatever has been typed there.
 void ShowChoiceWhenLeft(CatalogueListBox& list)
 {
-    QObject::connect(list.lineEdit(), &QLineEdit::editingFinished, &list, [&list] {
+    QObject::connect(&list, &CatalogueListBox::Left, &list, [&list] {
         if (list.currentText() != list.itemText(list.currentIndex())) {
             list.setEditText(list.itemText(list.currentIndex()));
         }

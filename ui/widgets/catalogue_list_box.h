@@ -57,6 +57,8 @@ signals:
     void Chosen();
     /// Enter has made a choice; comes after Chosen.
     void EnterTaken();
+    /// The focus has gone elsewhere for good: not to the drop-down list, to a menu or to another window.
+    void Left();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -184,6 +184,9 @@ void CatalogueListBox::focusOutEvent(QFocusEvent* event)
         setCurrentIndex(index);
     }
     QComboBox::focusOutEvent(event);
+    if (!comesBack) {
+        emit Left();
+    }
 }
 
 void CatalogueListBox::showPopup()

@@ -60,6 +60,14 @@ TEST_F(ChoosingTest, EditSelectionOpensTheFields)
     EXPECT_TRUE(IsEditable());
 }
 
+TEST_F(ChoosingTest, AccessKeyOfEditSelectionOpensTheFields)
+{
+    ChooseMaker("ACME");
+    ChooseModel("XR-5");
+    Press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return IsEditable(); }));
+}
+
 TEST_F(ChoosingTest, AnotherModelOrMakerLocksTheFieldsAgain)
 {
     Edit("ACME", "XR-5");
@@ -117,6 +125,27 @@ TEST_F(ChoosingTest, ListThatIsLeftShowsWhatIsChosenInIt)
     Press(Qt::Key_Tab);
     EXPECT_EQ(Text("cboAntennaMakers"), "ACME");
     EXPECT_EQ(Entries("cboAntennaModels"), "XR-5|A-99");
+}
+
+TEST_F(ChoosingTest, TypedMakerStaysWhenTheDropDownListOpensAndIsTakenByEnterThere)
+{
+    List("cboAntennaMakers").setFocus();
+    test::Type(dialog, QStringLiteral("ac"));
+    Press(Qt::Key_F4);
+    ASSERT_TRUE(List("cboAntennaMakers").view()->isVisible());
+    EXPECT_EQ(Text("cboAntennaMakers"), "ACME");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Entries("cboAntennaModels"), "XR-5|A-99");
+}
+
+TEST_F(ChoosingTest, TypedMakerStaysWhileAnotherWindowIsInFront)
+{
+    List("cboAntennaMakers").setFocus();
+    test::Type(dialog, QStringLiteral("ac"));
+    QFocusEvent leaving(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&List("cboAntennaMakers"), &leaving);
+    EXPECT_EQ(Text("cboAntennaMakers"), "ACME");
+    EXPECT_EQ(Entries("cboAntennaModels"), "");
 }
 
 TEST_F(ChoosingTest, TypedMakerIsTakenWhenTheListIsLeft)
