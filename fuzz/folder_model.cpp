@@ -98,6 +98,7 @@ Names MakersIn(const MemoryFiles& files, const std::string& folder)
         }
     }
     std::sort(makers.begin(), makers.end());
+    makers.erase(std::unique(makers.begin(), makers.end()), makers.end());
     return makers;
 }
 
@@ -112,7 +113,9 @@ std::string FileOf(const MemoryFiles& files, const std::string& folder, const st
         if (ProfileModel::IsSame(name, wanted)) {
             std::size_t differences = 0;
             for (std::size_t place = 0; place < name.size(); ++place) {
-                differences += name[place] != wanted[place] ? 1 : 0;
+                // All letters of the extension together weigh less than one before it.
+                const std::size_t weight = place < maker.size() ? kEnding.size() : 1;
+                differences += name[place] != wanted[place] ? weight : 0;
             }
             best = differences < fewest ? name : best;
             fewest = std::min(fewest, differences);

@@ -101,6 +101,8 @@ std::vector<std::string> Catalogue::LoadMakers(std::string_view kind) const
 {
     std::vector<std::string> makers = MakersWithFiles(kind);
     SortArrays(makers); // the files came in the order of their whole names
+    // Files that differ in the case of their extension alone are one maker's.
+    makers.erase(std::unique(makers.begin(), makers.end()), makers.end());
     return makers;
 }
 

@@ -10,6 +10,7 @@
 #include <functional>
 #include <numeric>
 #include <string_view>
+#include <utility>
 
 namespace quillon::store {
 namespace fs = std::filesystem;
@@ -53,10 +54,16 @@ std::optional<std::vector<std::string>> ListNames(FileCalls& calls, const fs::pa
     return std::vector<std::string>(names.begin(), names.end());
 }
 
+/// Letters of other case before the extension, and in it: what stands before tells one maker from another.
 /// @param other  as long as name.
-int Differences(const std::string& name, const std::string& other)
+std::pair<int, int> Differences(std::string_view name, std::string_view other)
 {
-    return std::inner_product(name.begin(), name.end(), other.begin(), 0, std::plus<>(), std::not_equal_to<>());
+    const auto count = [](std::string_view one, std::string_view two) {
+        return std::inner_product(one.begin(), one.end(), two.begin(), 0, std::plus<>(), std::not_equal_to<>());
+    };
+    const std::size_t extension = std::min(name.rfind('.'), name.size());
+    return {count(name.substr(0, extension), other.substr(0, extension)),
+            count(name.substr(extension), other.substr(extension))};
 }
 
 bool IsFolder(FileCalls& calls, const fs::path& folder, const FolderEntry& entry)

@@ -25,7 +25,8 @@ struct FoundName
 
 /// Looks for a name, letter case aside, and gives the path as its names are spelled on disk. A name that exists as
 /// given stays; otherwise the entry that differs only in the case of ASCII letters takes its place, with several the
-/// one with the fewest differences, then the first by character code. A path that is not found comes back as given.
+/// one with the fewest differences before its extension, then in it, then the first by character code. A path that is
+/// not found comes back as given.
 [[nodiscard]] FoundName FindName(FileCalls& calls, const std::filesystem::path& path);
 
 /// The path that a file's links lead to at last, which need not exist. @return nothing when links go round in a circle

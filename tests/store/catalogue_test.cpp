@@ -50,6 +50,24 @@ TEST_F(CatalogueTest, ExtensionCountsInAnyCaseAndWholeOnly)
     EXPECT_EQ(m_catalogue.LoadCableMakers(), (Names{"Bar", "Foo", "x.DAT"}));
 }
 
+TEST_F(CatalogueTest, MakersThatDifferInCaseAloneAreTwo)
+{
+    m_folder.Put("Antennas/A.DAT", "[upper]\n");
+    m_folder.Put("Antennas/a.dat", "[lower]\n");
+    EXPECT_EQ(m_catalogue.LoadAntennaMakers(), (Names{"A", "a"}));
+    EXPECT_EQ(m_catalogue.LoadAntennas("A"), Names{"upper"});
+    EXPECT_EQ(m_catalogue.LoadAntennas("a"), Names{"lower"});
+}
+
+TEST_F(CatalogueTest, FilesThatDifferInTheCaseOfTheirExtensionAreOneMaker)
+{
+    m_folder.Put("Antennas/Foo.DAT", "[first]\n");
+    m_folder.Put("Antennas/Foo.X.DAT", "");
+    m_folder.Put("Antennas/Foo.dat", "[second]\n");
+    EXPECT_EQ(m_catalogue.LoadAntennaMakers(), (Names{"Foo", "Foo.X"}));
+    EXPECT_EQ(m_catalogue.LoadAntennas("Foo"), Names{"first"});
+}
+
 TEST_F(CatalogueTest, FileNamesThatAreNoMakersAreNotListed)
 {
     for (const char* name : {"a|b.DAT", "back\\slash.DAT", "end .DAT", "end..DAT", "..DAT", "...DAT", "tab\t.DAT",

@@ -61,6 +61,14 @@ TEST_F(FileNames, PreferTheNearestOfOtherSpellings)
     EXPECT_EQ(Resolve(m_folder / "FOO.dAT"), m_folder / "FOO.DAT");
 }
 
+TEST_F(FileNames, GoByWhatStandsBeforeTheExtensionFirst)
+{
+    m_folder.Put("A.B.DAT", "");
+    m_folder.Put("a.b.dat", "");
+    EXPECT_EQ(Resolve(m_folder / "a.b.DAT"), m_folder / "a.b.dat");
+    EXPECT_EQ(Resolve(m_folder / "A.B.dat"), m_folder / "A.B.DAT");
+}
+
 TEST_F(FileNames, PreferTheFirstByCharacterCodeAmongEquals)
 {
     m_folder.Put("fOO", "");
