@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,12 @@ namespace quillon::store {
     }
     const bool isSmall = (byte >= 'a' && byte <= 'z') || static_cast<unsigned char>(byte) >= 0xE0;
     return isSmall ? static_cast<char>(static_cast<unsigned char>(byte) - 0x20) : byte;
+}
+
+/// Whether two texts of code page 1252 are equal when the case of letters does not count.
+[[nodiscard]] constexpr bool EqualTexts(std::string_view left, std::string_view right) noexcept
+{
+    return std::ranges::equal(left, right, {}, UpperCase, UpperCase);
 }
 
 } // namespace quillon::store

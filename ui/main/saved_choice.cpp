@@ -1,7 +1,7 @@
 #include "ui/main/saved_choice.h"
 
 #include "engine/fixed_text.h"
-#include "engine/text_compare.h"
+#include "store/code_page.h"
 #include "ui/widgets/catalogue_list_box.h"
 #include "ui/widgets/catalogue_text.h"
 
@@ -35,7 +35,7 @@ bool ChooseSaved(CatalogueListBox& list, std::string_view name, std::size_t widt
         index = Find(list, [&](const std::string& entry) {
             engine::FixedText<kWidestName> held;
             held = std::string_view(entry).substr(0, width);
-            return engine::EqualIgnoringCase(held.Trimmed(), name);
+            return store::EqualTexts(held.Trimmed(), name);
         });
     }
     list.Choose(index);

@@ -3,7 +3,7 @@
 #include "engine/arithmetic_error.h"
 #include "engine/mask.h"
 #include "engine/number_text.h"
-#include "engine/text_compare.h"
+#include "store/code_page.h"
 #include "ui/report/coax_loss_text.h"
 
 #include <charconv>
@@ -103,7 +103,7 @@ std::string Ahead(const ComparisonRow& row, float one, float two, std::string_vi
 
 std::string CompareTexts(const ComparisonRow& row, const ComparisonField& one, const ComparisonField& two)
 {
-    return std::string(engine::EqualIgnoringCase(one.Padded(), two.Padded()) ? row.equal : row.one);
+    return std::string(store::EqualTexts(one.Padded(), two.Padded()) ? row.equal : row.one);
 }
 
 std::string ComparePositive(const ComparisonRow& row, const ComparisonField& oneField, const ComparisonField& twoField,
@@ -138,7 +138,7 @@ std::string CompareTextThenNumber(const ComparisonRow& row, const ComparisonInpu
 {
     const ComparisonField& one = FieldOf(row, input, SystemId::One);
     const ComparisonField& two = FieldOf(row, input, SystemId::Two);
-    if (engine::EqualIgnoringCase(one.Padded(), two.Padded())) {
+    if (store::EqualTexts(one.Padded(), two.Padded())) {
         return std::string(row.equal);
     }
     // As given: a field is never the empty text, so neither test ever fires.

@@ -80,6 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
     Texts, Sentence,
     testing::Values(SentenceRow{"2 equal", 2, "Acme", "Acme", "Antenna Brands Are Equal"},
                     SentenceRow{"2 equal but for case", 2, "Acme", "ACME", "Antenna Brands Are Equal"},
+                    SentenceRow{"2 equal but for case beyond ASCII", 2, "M\xFChle \x9A", "M\xDCHLE \x8A",
+                                "Antenna Brands Are Equal"},
                     SentenceRow{"2 differ", 2, "Acme", "Acne", "Antenna Brands Are Dissimilar"},
                     SentenceRow{"2 both empty are equal", 2, "", "", "Antenna Brands Are Equal"},
                     SentenceRow{"2 a leading blank counts", 2, " Acme", "Acme", "Antenna Brands Are Dissimilar"},
