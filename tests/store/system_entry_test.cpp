@@ -168,7 +168,8 @@ TEST_P(RequiredValue, IsMissedInEitherSystem)
 
 TEST_P(RequiredValue, MustBeANumberAndNothingElse)
 {
-    for (const std::string value : {"abc", "x1", ".", "-", "+", "\" \"", "inf", "nan", "7.5 dBd", "3,9", "1.2.3"}) {
+    for (const std::string value :
+         {"abc", "x1", ".", "-", "+", "\" \"", "inf", "nan", "7.5 dBd", "3,9", "1.2.3", "+-5", "-+5", "++5", "--5"}) {
         const std::string key = std::string("System2") + GetParam();
         const auto damage = std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home"));
         EXPECT_EQ(damage.key, key) << value;
@@ -182,6 +183,14 @@ TEST_P(RequiredValue, MustFitInto32Bits)
         const std::string key = std::string("System1") + GetParam();
         EXPECT_EQ(std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home")),
                   (DamagedValue{key, value, Fault::TooLarge}));
+    }
+}
+
+TEST_P(RequiredValue, IsZeroWhenItIsTooCloseToIt)
+{
+    for (const std::string value : {"1e-60", "-1e-60", "1e-400", "+1e-400", "-1e-400", "0.0"}) {
+        const std::string key = std::string("System1") + GetParam();
+        EXPECT_EQ(ReadPair(SampleWithValue(key, value), "home"), ReadPair(SampleWithValue(key, "0"), "home")) << value;
     }
 }
 
