@@ -145,14 +145,16 @@ void MonkeyRun::Deliver()
 /// The two commands that a key gives: a new maker and a new model, typed into their boxes.
 void MonkeyRun::NoteCommand()
 {
-    const auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    if (box == nullptr || m_front == nullptr || m_front->objectName() != u"EditAntennas") {
+    // The window's own focus: keys get there, too, while its list is open or another window counts as the active one.
+    const auto* box =
+        m_editor != nullptr && m_editor->isVisible() ? qobject_cast<QLineEdit*>(m_editor->focusWidget()) : nullptr;
+    if (box == nullptr) {
         return;
     }
     if (box->objectName() == u"txtAntennaBrand") {
         m_files.Permit({"Antennas/" + box->text().toStdString() + ".DAT"});
     } else if (box->objectName() == u"txtAntennaModel") {
-        const auto* makers = m_front->findChild<ui::CatalogueListBox*>(QStringLiteral("cboAntennaMakers"));
+        const auto* makers = m_editor->findChild<ui::CatalogueListBox*>(QStringLiteral("cboAntennaMakers"));
         m_files.Permit({"Antennas/" + makers->ChosenName().toStdString() + ".DAT", "Antennas/ANTENNAS.ZEP"});
     }
 }
@@ -174,6 +176,7 @@ void MonkeyRun::MeetFrontWindow()
         auto* save = front->findChild<QPushButton*>(QStringLiteral("cmdSave"));
         connect(save, &QPushButton::released, this, [this] { m_files.Permit({"QuillonSystems.dat"}); });
     } else if (front->objectName() == u"EditAntennas") {
+        m_editor = front;
         auto* save = front->findChild<QPushButton*>(QStringLiteral("cmdSave"));
         const auto* makers = front->findChild<ui::CatalogueListBox*>(QStringLiteral("cboAntennaMakers"));
         connect(save, &QPushButton::released, this, [this, makers] {

@@ -55,6 +55,7 @@ private:
     std::optional<MarkerModel> m_markers;
     QPointer<QWidget> m_front;      ///< the window in front at the last look
     QPointer<QWidget> m_loadDialog; ///< once it has been seen
+    QPointer<QWidget> m_editor;     ///< once it has been seen
     QPointer<QWidget> m_message;    ///< the last message or question that was in front
     bool m_wasLoading = false;
     bool m_isBroken = false;
