@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
         FrameRow{"FrameSystemTwoCoax", "Choose Brand && Type of System 2 Coax"},
         FrameRow{"FrameSysOneCoax", "System 1 Coax data"}, FrameRow{"FrameSysTwoCoax", "System 2 Coax data"}, //
         FrameRow{"FrameCoaxLoss", "Coax dB Loss/100 Ft"}, FrameRow{"FrameAntennaGain", "Antenna Gain in dB"},
+        FrameRow{"FrameControls", ""},
         FrameRow{"FrameDisplay", "System #1--- Antenna System Performance Calculations--- System #2"}),
     support::RowName());
 

@@ -111,6 +111,25 @@ INSTANTIATE_TEST_SUITE_P(
                                 "Antenna System ERP, System 1: 0.00 W"}),
     support::RowName());
 
+TEST_F(WindowTest, PanelsCaptionsHaveTheirNamesAsGiven)
+{
+    Open();
+    const std::pair<const char*, const char*> captions[]{
+        {"lbVSWRReturnLoss(0)", "SWR Power Attenuation"},
+        {"lbVSWRReturnLoss(1)", "SWR Attenuation in dB"},
+        {"lblCoaxLoss", "Coax Loss in dB"},
+        {"lblCoaxPowerLoss(0)", "Coax Power Loss"},
+        {"lblAntennaGain(0)", "Antenna Gain in dBd"},
+        {"lblAntennaWGain(0)", "Antenna Power Gain"},
+        {"lblSystemGain(0)", "Antenna System Gain in dB"},
+        {"lblFeedPointPower(0)", "Antenna Feedpoint Power"},
+        {"lblERP(0)", "Antenna System ERP"},
+    };
+    for (const auto& [name, caption] : captions) {
+        EXPECT_EQ(Text(name), caption) << name;
+    }
+}
+
 TEST_F(WindowTest, PanelHasTwoPlatesEquallyWide)
 {
     Open();
