@@ -31,7 +31,7 @@ bool IsOneOf(const QKeyEvent& event, std::initializer_list<Qt::Key> keys)
 bool ActsOnPopup(const QKeyEvent& event)
 {
     const bool toggles = event.modifiers().testFlag(Qt::AltModifier) && IsOneOf(event, {Qt::Key_Up, Qt::Key_Down});
-    return toggles || IsEnter(event) || IsOneOf(event, {Qt::Key_F4, Qt::Key_Tab, Qt::Key_Backtab});
+    return toggles || IsEnter(event) || IsOneOf(event, {Qt::Key_F4, Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab});
 }
 
 /// Keys that edit the text or move the caret even while the drop-down list is open.

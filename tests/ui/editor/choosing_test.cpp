@@ -138,6 +138,20 @@ TEST_F(ChoosingTest, TypedMakerStaysWhenTheDropDownListOpensAndIsTakenByEnterThe
     EXPECT_EQ(Entries("cboAntennaModels"), "XR-5|A-99");
 }
 
+TEST_F(ChoosingTest, EscapeClosesTheDropDownListFirstAndThenTheWindow)
+{
+    ChooseMaker("ACME");
+    List("cboAntennaMakers").setFocus();
+    Press(Qt::Key_F4);
+    ASSERT_TRUE(List("cboAntennaMakers").view()->isVisible());
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(List("cboAntennaMakers").view()->isVisible());
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(Text("cboAntennaMakers"), "ACME");
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
 TEST_F(ChoosingTest, TypedMakerStaysWhileAnotherWindowIsInFront)
 {
     List("cboAntennaMakers").setFocus();
