@@ -213,7 +213,9 @@ std::optional<std::string> MonkeyRun::Look()
     if (auto wrong = m_files.Check()) {
         return wrong;
     }
-    if (m_files.IsPermitted() && !IsAsking()) {
+    const bool isAsking = IsAsking();
+    const bool isAnswered = std::exchange(m_wasAsking, isAsking) && !isAsking;
+    if (m_files.IsPermitted() && !isAsking) {
         m_files.Revoke();
     }
     if (auto wrong = WindowOffScreen()) {
@@ -228,7 +230,8 @@ std::optional<std::string> MonkeyRun::Look()
         return std::nullopt;
     }
     const bool isLoading = m_loadDialog != nullptr && m_loadDialog->isVisible();
-    if (auto wrong = m_shown->Check(isLoading || std::exchange(m_wasLoading, isLoading))) {
+    // What an answer held up, a key that brought the message, is through together with the events that came meanwhile.
+    if (auto wrong = m_shown->Check(isLoading || std::exchange(m_wasLoading, isLoading), isAnswered)) {
         return wrong;
     }
     m_wasLoading = isLoading;

@@ -58,6 +58,7 @@ private:
     QPointer<QWidget> m_editor;     ///< once it has been seen
     QPointer<QWidget> m_message;    ///< the last message or question that was in front
     bool m_wasLoading = false;
+    bool m_wasAsking = false;
     bool m_isBroken = false;
     bool m_isLate = false; ///< an event was due while a computation let events run
     int m_timer = 0;

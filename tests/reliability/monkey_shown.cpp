@@ -173,7 +173,7 @@ void ShownFigures::AddTypedFigures(const QWidget& window)
     m_items.back().onlyWhenChanged = true;
 }
 
-std::optional<std::string> ShownFigures::Check(Item& item, bool loading) const
+std::optional<std::string> ShownFigures::Check(Item& item, bool loading, bool several) const
 {
     const QString text = item.shown();
     const bool isChanged = text != item.text;
@@ -181,7 +181,7 @@ std::optional<std::string> ShownFigures::Check(Item& item, bool loading) const
     bool agrees = false;
     if (isRefused) {
         // A text that is refused leaves the record alone.
-        agrees = !isChanged || loading || item.held() == item.heldBefore;
+        agrees = !isChanged || loading || several || item.held() == item.heldBefore;
     } else {
         agrees = (item.onlyWhenChanged && !isChanged) || item.agrees(text);
     }
@@ -201,14 +201,14 @@ std::optional<std::string> ShownFigures::Check(Item& item, bool loading) const
            (loading ? " while a pair is loaded" : "") + ", before: \"" + before.toStdString() + "\"";
 }
 
-std::optional<std::string> ShownFigures::Check(bool loading)
+std::optional<std::string> ShownFigures::Check(bool loading, bool several)
 {
     const bool isSame = m_systems.Data == m_data && m_systems.Results == m_results;
     for (Item& item : m_items) {
         if (isSame && item.shown() == item.text && !loading) {
             continue;
         }
-        if (auto wrong = Check(item, loading)) {
+        if (auto wrong = Check(item, loading, several)) {
             return wrong;
         }
     }

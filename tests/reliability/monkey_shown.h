@@ -25,8 +25,9 @@ public:
     ~ShownFigures() = default;
 
     /// To be called after each event. @param loading  whether the dialog that loads a pair was open during it
+    /// @param several  whether more than one change may have come since the last call
     /// @return what is wrong, if anything is.
-    [[nodiscard]] std::optional<std::string> Check(bool loading);
+    [[nodiscard]] std::optional<std::string> Check(bool loading, bool several);
 
 private:
     struct Item
@@ -49,7 +50,7 @@ private:
     void AddTypedFigures(const QWidget& window);
     [[nodiscard]] Item Box(const QWidget& window, const QString& name, std::function<float()> held,
                            const char* mask) const;
-    [[nodiscard]] std::optional<std::string> Check(Item& item, bool loading) const;
+    [[nodiscard]] std::optional<std::string> Check(Item& item, bool loading, bool several) const;
     [[nodiscard]] QString Masked(float value, const char* mask) const;
     [[nodiscard]] std::optional<float> Number(QString text) const;
 
