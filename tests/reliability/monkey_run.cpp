@@ -207,6 +207,14 @@ bool MonkeyRun::IsAsking()
     return m_message != nullptr;
 }
 
+/// Whether a pair may be loaded during the next event. The click that an access key begins ends a moment later, when
+/// its window may be closed already.
+bool MonkeyRun::IsLoading() const
+{
+    return m_loadDialog != nullptr &&
+           (m_loadDialog->isVisible() || m_loadDialog->findChild<QPushButton*>(QStringLiteral("cmdLoad"))->isDown());
+}
+
 std::optional<std::string> MonkeyRun::Look()
 {
     MeetFrontWindow();
@@ -229,7 +237,7 @@ std::optional<std::string> MonkeyRun::Look()
     if (!m_program || !m_shown) {
         return std::nullopt;
     }
-    const bool isLoading = m_loadDialog != nullptr && m_loadDialog->isVisible();
+    const bool isLoading = IsLoading();
     // What an answer held up, a key that brought the message, is through together with the events that came meanwhile.
     if (auto wrong = m_shown->Check(isLoading || std::exchange(m_wasLoading, isLoading), isAnswered)) {
         return wrong;

@@ -39,6 +39,7 @@ private:
     void MeetFrontWindow();
     void MeetQuestion(QWidget& box);
     [[nodiscard]] bool IsAsking();
+    [[nodiscard]] bool IsLoading() const;
     [[nodiscard]] std::optional<std::string> Look();
 
     [[nodiscard]] bool IsOver() const { return m_isBroken || m_journal.Events() >= m_count; }
