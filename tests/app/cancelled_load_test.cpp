@@ -29,9 +29,11 @@ protected:
         test::Find<QLineEdit>(Main(), QStringLiteral("txtOutputPower(1)")).setText(QString::fromLatin1(watts));
     }
 
+    /// A figure with a point, whatever the locale has in its place.
     std::string Shown(const char* label)
     {
-        return test::Find<QLabel>(Main(), QString::fromLatin1(label)).text().toStdString();
+        QString text = test::Find<QLabel>(Main(), QString::fromLatin1(label)).text();
+        return text.replace(Main().locale().decimalPoint(), QStringLiteral(".")).toStdString();
     }
 
     std::string Band()
