@@ -204,6 +204,21 @@ TEST_P(ShownRecord, FindsAnEntryByItsCutName)
     EXPECT_FLOAT_EQ(Data().CoaxLoss, 0.457265F); // 0.12 * 3.774917 + 0.0003 * 14.25
 }
 
+TEST_P(ShownRecord, FindsItsEntriesInAnyLetterCase)
+{
+    folder.Put("Antennas/M\u00FCHLE.DAT", "[MODEL \xD6]\nGainType=dBd\nGain20=50\n");
+    Window().LoadAntennaMakers();
+    Show([](engine::SystemData& data) {
+        data.AntennaBrand = "m\xFChle";
+        data.AntennaModel = "Model \xF6";
+        data.CoaxBrand = "CableWorks";
+        data.CoaxModel = "rg-8x";
+    });
+    ExpectAntennaChosen("M\u00FCHLE", "MODEL \u00D6", "20 Meters");
+    EXPECT_EQ(Text(CoaxList(0)), "CABLEWORKS");
+    EXPECT_EQ(Text(CoaxList(1)), "RG-8X");
+}
+
 TEST_P(ShownRecord, OfNoNamesChoosesNothing)
 {
     Show([](engine::SystemData& data) {
