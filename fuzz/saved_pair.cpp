@@ -119,8 +119,7 @@ std::vector<std::string> NamesIn(const ProfileModel& file)
 bool IsNumber(std::string text)
 {
     text = ProfileModel::StripBlanks(text);
-    text.erase(0, text.starts_with('+') ? 1 : 0);
-    text.erase(0, text.starts_with('-') ? 1 : 0);
+    text.erase(0, text.starts_with('+') || text.starts_with('-') ? 1 : 0);
     const std::size_t mark = text.find_first_of("eE");
     const std::string mantissa = text.substr(0, mark);
     std::string exponent = mark == std::string::npos ? "0" : text.substr(mark + 1);
