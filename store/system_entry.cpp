@@ -71,14 +71,13 @@ std::optional<Fault> FaultOfNumber(std::string_view text)
     constexpr char kBlank = ' ';
     text.remove_prefix(std::min(text.find_first_not_of(kBlank), text.size()));
     text.remove_suffix(text.size() - (text.find_last_not_of(kBlank) + 1));
-    const bool hasTwoSigns = text.starts_with("+-");
-    if (text.starts_with('+')) {
+    if (text.starts_with('+') && !text.starts_with("+-")) {
         text.remove_prefix(1);
     }
     double number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
     const bool isNumber = read.ec != std::errc::invalid_argument && read.ptr == text.data() + text.size();
-    if (!isNumber || hasTwoSigns || !std::isfinite(number)) {
+    if (!isNumber || !std::isfinite(number)) {
         return Fault::NoNumber;
     }
     // Out of range is what is too close to zero, too, and that is 0.
