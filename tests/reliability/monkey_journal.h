@@ -14,7 +14,7 @@ namespace quillon::test {
 class Journal
 {
 public:
-    static constexpr std::size_t kLines = 48;
+    static constexpr std::size_t kLines = 16;
     static constexpr std::size_t kWidth = 160;
 
     /// Notes an event before it is delivered. Nothing is allocated.
