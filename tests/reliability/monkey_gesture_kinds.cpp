@@ -216,6 +216,7 @@ void Gestures::SetState()
                         target->setWindowState(next);
                     }
                 });
+            m_waiting.back().isAnswered = true;
         }
     }
 }

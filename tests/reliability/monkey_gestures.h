@@ -20,6 +20,7 @@ struct MonkeyEvent
     std::string what;
     std::function<void()> deliver;
     bool isFromOutside = false; ///< another program's doing
+    bool isAnswered = false;    ///< by the display, in an event that has to come before further ones
 };
 
 /// One of several, by chance.

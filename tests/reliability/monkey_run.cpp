@@ -124,14 +124,15 @@ void MonkeyRun::timerEvent(QTimerEvent* event)
             QApplication::exit();
             return;
         }
-        Deliver();
-        if (m_steps != step) {
-            return; // further events came in a dialog that this one opened
+        const bool isAnswered = Deliver();
+        if (isAnswered || m_steps != step) {
+            return; // the display comes first, or further events came in a dialog that this one opened
         }
     }
 }
 
-void MonkeyRun::Deliver()
+/// @return whether the display answers the event.
+bool MonkeyRun::Deliver()
 {
     const MonkeyEvent event = m_gestures.Next();
     m_journal.Note(event.what);
@@ -140,6 +141,7 @@ void MonkeyRun::Deliver()
     if (event.isFromOutside) {
         m_files.Accept();
     }
+    return event.isAnswered;
 }
 
 /// The two commands that a key gives: a new maker and a new model, typed into their boxes.

@@ -34,7 +34,7 @@ private:
     void ShowMainWindow();
     void MainWindowUnloaded();
     void ScheduleNext();
-    void Deliver();
+    bool Deliver();
     void NoteCommand();
     void MeetFrontWindow();
     void MeetQuestion(QWidget& box);
