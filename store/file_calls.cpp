@@ -82,13 +82,15 @@ int FileCalls::List(const char* path, std::vector<FolderEntry>& entries)
     if (!folder) {
         return -1;
     }
-    errno = 0; // the end of the folder looks like an error, but for this
-    while (const dirent* entry = ::readdir(folder.get())) {
+    const auto next = [&folder] {
+        errno = 0; // the end of the folder looks like an error, but for this
+        return ::readdir(folder.get());
+    };
+    while (const dirent* entry = next()) {
         const std::string_view name = &entry->d_name[0];
         if (name != "." && name != "..") {
             entries.push_back({std::string(name), entry->d_type});
         }
-        errno = 0;
     }
     return errno == 0 ? 0 : -1;
 }

@@ -8,7 +8,9 @@
 namespace quillon::store {
 namespace {
 
-constexpr std::string_view kLineBreakers("\r\n\0", 3);
+using namespace std::string_view_literals;
+
+constexpr std::string_view kLineBreakers = "\r\n\0"sv;
 
 std::size_t CopyText(std::string_view text, std::span<char> buffer)
 {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <dirent.h>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -71,7 +72,7 @@ TEST_F(FileNames, GoByWhatStandsBeforeTheExtensionFirst)
 
 TEST_F(FileNames, PreferTheFirstByCharacterCodeAmongEquals)
 {
-    m_folder.Put("fOO", "");
+    m_folder.Put("fOo", "");
     m_folder.Put("Foo", "");
     EXPECT_EQ(Resolve(m_folder / "FOo"), m_folder / "Foo");
 }
@@ -82,6 +83,14 @@ TEST_F(FileNames, StayAsGivenWhenNothingIsFound)
     EXPECT_EQ(Resolve(m_folder / "missing/new.dat"), m_folder / "missing/new.dat");
     EXPECT_EQ(Resolve(""), "");
     EXPECT_EQ(Resolve("no-such-name-here"), "no-such-name-here");
+}
+
+TEST_F(FileNames, AreMissingWhereThereCanBeNone)
+{
+    const fs::path belowFile = m_folder.Put("file", "") / "name";
+    EXPECT_EQ(FindName(m_calls, belowFile), (FoundName{NameState::Missing, belowFile}));
+    const fs::path tooLong = m_folder / std::string(256, 'n');
+    EXPECT_EQ(FindName(m_calls, tooLong), (FoundName{NameState::Missing, tooLong}));
 }
 
 TEST_F(FileNames, OfAnotherCaseBeyondASCIIAreOtherNames)
@@ -99,6 +108,28 @@ TEST_F(FileNames, ListEverythingButFolders)
     fs::create_symlink("nowhere", m_folder / "link");
     ASSERT_EQ(::mkfifo((m_folder / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(ListFiles(m_calls, m_folder.Path()), (Names{"A", "b", "link", "pipe"}));
+}
+
+/// A file system whose folders do not tell what is in them.
+class KindlessCalls : public FileCalls
+{
+public:
+    int List(const char* path, std::vector<FolderEntry>& entries) override
+    {
+        const int result = FileCalls::List(path, entries);
+        for (FolderEntry& entry : entries) {
+            entry.type = DT_UNKNOWN;
+        }
+        return result;
+    }
+};
+
+TEST_F(FileNames, AreNotTakenForFilesWhereTheFolderKeepsNoKinds)
+{
+    m_folder.Put("file", "");
+    fs::create_directory(m_folder / "folder");
+    KindlessCalls calls;
+    EXPECT_EQ(ListFiles(calls, m_folder.Path()), Names{"file"});
 }
 
 TEST_F(FileNames, ListNothingOfWhatIsNoFolder)

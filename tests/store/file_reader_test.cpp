@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
+#include <vector>
 
 namespace quillon::store {
 namespace {
@@ -142,6 +143,31 @@ TEST_F(ReadFileTest, RefusesAPipeThatTookTheFilesPlace)
     SwappingCalls calls(m_folder / "p");
     EXPECT_EQ(ReadFile(calls, (m_folder / "f").c_str(), m_bytes).state, FileState::Refused);
     EXPECT_EQ(m_bytes.View(), "");
+}
+
+/// Gives a byte at a time, as a slow medium may.
+class BytewiseCalls : public FileCalls
+{
+public:
+    ssize_t Read(int descriptor, void* buffer, std::size_t length) override
+    {
+        m_asked.push_back(length);
+        return FileCalls::Read(descriptor, buffer, 1);
+    }
+
+    [[nodiscard]] const std::vector<std::size_t>& Asked() const noexcept { return m_asked; }
+
+private:
+    std::vector<std::size_t> m_asked;
+};
+
+TEST_F(ReadFileTest, ReadsPieceByPieceAndAsksForNoMoreThanIsLeft)
+{
+    m_folder.Put("f", "text");
+    BytewiseCalls calls;
+    EXPECT_EQ(ReadFile(calls, (m_folder / "f").c_str(), m_bytes).state, FileState::Regular);
+    EXPECT_EQ(m_bytes.View(), "text");
+    EXPECT_EQ(calls.Asked(), (std::vector<std::size_t>{4, 3, 2, 1}));
 }
 
 /// The file shrinks while it is read.

@@ -1,7 +1,9 @@
 // What the store keeps of files that it has read, and when it reads them again.
 #include "tests/store/profile_store_fixture.h"
 
+#include <chrono>
 #include <ctime>
+#include <optional>
 #include <unistd.h>
 
 namespace quillon::store {
@@ -96,6 +98,24 @@ TEST_F(HeldFiles, SeesAChangeWithinOneStepOfTheFileSystemsClock)
     EXPECT_EQ(store.Read(m_file).Value("s", "k"), "1");
     m_folder.Put("f.dat", "[s]\nk=2\n");
     EXPECT_EQ(store.Read(m_file).Value("s", "k"), "2");
+}
+
+TEST_F(HeldFiles, SeesAChangeWithinTheStepThatIsJustPast)
+{
+    using namespace std::chrono;
+    m_folder.Put("f.dat", "[s]\nk=1\n");
+    std::optional<StoppedClock> calls;
+    std::optional<ProfileStore> store;
+    nanoseconds now{};
+    // Again when the machine was busy elsewhere: the step is long past then.
+    do {
+        now = system_clock::now().time_since_epoch();
+        calls.emplace(timespec{now / 1s, (now % 1s).count()});
+        store.emplace(*calls);
+        EXPECT_EQ(store->Read(m_file).Value("s", "k"), "1");
+    } while (system_clock::now().time_since_epoch() - now > 15ms);
+    m_folder.Put("f.dat", "[s]\nk=2\n");
+    EXPECT_EQ(store->Read(m_file).Value("s", "k"), "2");
 }
 
 TEST_F(HeldFiles, TakesAFileAsUnchangedOnceItsTimeIsPast)

@@ -113,6 +113,7 @@ INSTANTIATE_TEST_SUITE_P(NewLines, EditRowTest, ::testing::Values(
     EditRow{"new line takes the file's LF", "[s]\na=1\n", {"s", "k", "1"}, "[s]\na=1\nk=1\n"},
     EditRow{"new line takes the file's CR", "[s]\ra=1\r", {"s", "k", "1"}, "[s]\ra=1\rk=1\r"},
     EditRow{"with several the first line end is the file's", "[s]\r\na=1\n", {"s", "k", "1"}, "[s]\r\na=1\nk=1\r\n"},
+    EditRow{"the end of an empty first line is the file's", "\n[s]\r\na=1\r\n", {"s", "k", "1"}, "\n[s]\r\na=1\r\nk=1\n"},
     EditRow{"key before the blank lines that part the next header",
             "[s]\na=1\n\n \t\n[t]\n", {"s", "k", "1"}, "[s]\na=1\nk=1\n\n \t\n[t]\n"},
     EditRow{"key behind the section's comments",

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <optional>
 #include <random>
 #include <stdexcept>
 
@@ -174,6 +176,19 @@ TEST_F(ProfileBatchTest, IsTheOnlyOneOnItsFile)
     ProfileBatch(m_store, m_file);
 }
 
+TEST_F(ProfileBatchTest, LeavesALaterOneOfItsFileAloneOnceItIsWritten)
+{
+    std::optional<ProfileBatch> first(std::in_place, m_store, m_file);
+    Write("a", "2");
+    EXPECT_TRUE(first->Commit());
+    ProfileBatch second(m_store, m_file);
+    Write("a", "3");
+    first.reset();
+    EXPECT_EQ(m_folder.Get("f.dat"), "[s]\na=2\n");
+    EXPECT_TRUE(second.Commit());
+    EXPECT_EQ(m_folder.Get("f.dat"), "[s]\na=3\n");
+}
+
 ProfileEdit RandomEdit(std::mt19937& random)
 {
     static constexpr std::array<const char*, 6> kNames{"a", "A", "b", "", "[k]", "c c"};
@@ -234,6 +249,18 @@ TEST_F(ProfileBatchTest, DoesNotServeAReadFromBeforeTheFileBecameUnreadable)
     fs::create_directory(m_file);
     EXPECT_EQ(Value("a"), "none");
     fs::remove(m_file);
+    EXPECT_FALSE(Write("a", "2"));
+    EXPECT_FALSE(batch.Commit());
+    EXPECT_FALSE(fs::exists(m_file));
+}
+
+TEST_F(ProfileBatchTest, DoesNotServeAReadFromBeforeTheSystemCouldNotTell)
+{
+    fs::remove(m_file);
+    ProfileBatch batch(m_store, m_file);
+    EXPECT_EQ(Value("a"), "none");
+    m_calls.FailAt(1, EIO);
+    EXPECT_EQ(Value("a"), "none");
     EXPECT_FALSE(Write("a", "2"));
     EXPECT_FALSE(batch.Commit());
     EXPECT_FALSE(fs::exists(m_file));
