@@ -34,7 +34,7 @@ def all_mutants(part):
 def known_survivors():
     """The reason by the change; a change is known by its file, its line's text, and what becomes what."""
     survivors = tomllib.loads(SURVIVORS.read_text()).get("survivor", [])
-    return {(entry["file"], entry["line"], entry["change"]): entry["reason"] for entry in survivors}
+    return {(entry["file"], entry["line"], change): entry["reason"] for entry in survivors for change in entry["changes"]}
 
 
 def identity(mutant):
