@@ -25,16 +25,14 @@ public:
     void LetPendingEventsRun() override {}
 };
 
-AntennaSystems WithAndWithoutAntenna(const SystemData& data)
+AntennaSystems WithAntenna(const SystemData& data)
 {
     AntennaSystems systems;
-    for (const SystemId system : kBothSystems) {
-        systems.Data[system] = data;
-        systems.Results[system].AntennaGainDBd = data.AntennaGain;
-        systems.State[system].SetFlag(kComputeFlag, kTrue);
-    }
-    systems.Data[SystemId::One].UseAntennaList = kFalse;
-    systems.Data[SystemId::Two].UseAntennaList = kTrue;
+    systems.Data[SystemId::One] = data;
+    // An antenna only adds figures: what overflows without one overflows with one.
+    systems.Data[SystemId::One].UseAntennaList = kTrue;
+    systems.Results[SystemId::One].AntennaGainDBd = data.AntennaGain;
+    systems.State[SystemId::One].SetFlag(kComputeFlag, kTrue);
     return systems;
 }
 
@@ -42,7 +40,7 @@ AntennaSystems WithAndWithoutAntenna(const SystemData& data)
 
 bool CanCompute(const SystemData& data)
 {
-    AntennaSystems systems = WithAndWithoutAntenna(data);
+    AntennaSystems systems = WithAntenna(data);
     NoDisplay display;
     NoHooks hooks;
     Calculations calculations(systems, display, hooks);
@@ -50,7 +48,6 @@ bool CanCompute(const SystemData& data)
     calculations.BuildVSWRTable();
     try {
         calculations.RefreshData(1);
-        calculations.RefreshData(2);
         return true;
     } catch (const ArithmeticError&) {
         return false;

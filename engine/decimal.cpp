@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <memory>
 
 namespace quillon::engine {
 
@@ -16,11 +17,8 @@ constexpr int kExactPlaces = 111;
 
 using Buffer = std::array<char, 128>;
 
-void StripZeros(Decimal& number)
+void StripZerosAtEnd(Decimal& number)
 {
-    const std::size_t first = std::min(number.digits.find_first_not_of('0'), number.digits.size());
-    number.digits.erase(0, first);
-    number.point -= static_cast<int>(first);
     number.digits.erase(number.digits.find_last_not_of('0') + 1);
     if (number.digits.empty()) {
         number = {};
@@ -42,9 +40,9 @@ Decimal FromScientific(std::string_view text)
     if (exponent.starts_with('+')) {
         exponent.remove_prefix(1);
     }
-    std::from_chars(exponent.data(), exponent.data() + exponent.size(), number.point);
+    std::from_chars(exponent.data(), std::to_address(exponent.end()), number.point);
     ++number.point;
-    StripZeros(number);
+    StripZerosAtEnd(number);
     return number;
 }
 
@@ -86,16 +84,13 @@ Decimal ExactDecimal(float value)
 
 void RoundToPlaces(Decimal& number, int places)
 {
-    const int kept = number.point + places;
-    if (kept >= static_cast<int>(number.digits.size())) {
-        return;
-    }
+    const auto kept = static_cast<std::size_t>(std::max(number.point + places, 0));
     const bool roundsUp = DigitAt(number, places) >= '5';
-    number.digits.resize(static_cast<std::size_t>(std::max(kept, 0)));
+    number.digits.erase(std::min(kept, number.digits.size()));
     if (roundsUp) {
         AddOneAtEnd(number);
     }
-    StripZeros(number);
+    StripZerosAtEnd(number);
 }
 
 std::string LayOut(const Decimal& number, const DecimalLayout& layout, std::string_view separator)

@@ -89,9 +89,9 @@ std::optional<float> ReadNumber(std::string_view text) noexcept
     }
     float value = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (read.ec == std::errc::result_out_of_range) {
-        const std::string_view number = text.substr(0, static_cast<std::size_t>(read.ptr - text.data()));
-        value = IsBelowOne(number) ? 0 : std::numeric_limits<float>::max();
+    // Out of range, it has left the 0 as it was.
+    if (read.ec == std::errc::result_out_of_range && !IsBelowOne({text.data(), read.ptr})) {
+        value = std::numeric_limits<float>::max();
     }
     return negative ? -value : value;
 }

@@ -13,7 +13,8 @@ namespace {
 /// How many digits a count has; none for zero.
 int DigitCount(std::uint32_t count) noexcept
 {
-    constexpr std::array<std::uint32_t, 8> kLeastCounts{1, 10, 100, 1'000, 10'000, 100'000, 1'000'000, 10'000'000};
+    constexpr auto kLeastCounts =
+        std::to_array<std::uint32_t>({1, 10, 100, 1'000, 10'000, 100'000, 1'000'000, 10'000'000});
     // log10(2) is 1233 / 4096: one digit may be missing.
     const auto digits = static_cast<std::uint32_t>(std::bit_width(count)) * 1233 >> 12U;
     return static_cast<int>(digits + static_cast<std::uint32_t>(count >= kLeastCounts[digits]));

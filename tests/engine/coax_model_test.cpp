@@ -112,6 +112,7 @@ INSTANTIATE_TEST_SUITE_P(Frequencies, CoaxLossAt, ::testing::Values(
     SpecRow{"14.250 takes the second step of its segment and stays 1.31", 14.25F, 1.31F},
     SpecRow{"0.5 is 0.02", 0.5F, 0.02F},
     SpecRow{"144.200 takes the loss at 100 MHz", 144.2F, 3.26F},
+    SpecRow{"170.002 falls into the bin from 160.001", 170.002F, 3.26F},
     SpecRow{"170.3 falls into the bin from 160.001", 170.3F, 3.26F},
     SpecRow{"the end of the overlap falls into the next bin", 170.501F, 3.26F},
     SpecRow{"0.0005 lies in no bin", 0.0005F, 0.0F},

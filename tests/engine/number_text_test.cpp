@@ -139,6 +139,8 @@ INSTANTIATE_TEST_SUITE_P(OutOfRange, NumberFromTextRow, ::testing::Values(
     ReadRow{"too large and negative", "-1e39", -kLargest},
     ReadRow{"too large with a plus in the exponent", "1E+400", kLargest},
     ReadRow{"too large by digits", "1000000000000000000000000000000000000000", kLargest},
+    ReadRow{"too large by digits, before a number that is not its exponent",
+            "1000000000000000000000000000000000000000-99", kLargest},
     ReadRow{"too large though it starts with zeros", "0.001e60", kLargest},
     ReadRow{"too large with an endless exponent", "1e99999999999999999999", kLargest},
     ReadRow{"too small by exponent", "1e-60", 0.0F},

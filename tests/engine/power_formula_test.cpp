@@ -69,6 +69,18 @@ TEST_F(PowerSourceTest, NegativeSystemGainIsNegatedAndTakesTheLossCoefficient)
     Expect(PowerKind::SystemPower, 3.0F, 100.0F, true);
 }
 
+TEST_F(PowerSourceTest, SystemGainBelowOneIsAGain)
+{
+    results.SystemGain = 0.5F;
+    Expect(PowerKind::SystemPower, 0.5F, 100.0F, false);
+}
+
+TEST_F(PowerSourceTest, SystemGainOfZeroIsAGain)
+{
+    results.SystemGain = 0.0F;
+    Expect(PowerKind::SystemPower, 0.0F, 100.0F, false);
+}
+
 TEST_F(PowerSourceTest, CoaxPowerLossTakesTheLossCoefficientAndRoundsHalvesUp)
 {
     Expect(PowerKind::CoaxPowerLoss, 1.4F, 100.0F, true);

@@ -108,6 +108,14 @@ TEST(AppendScaled, WritesBehindWhatIsThereAndTakesAnySeparator)
     EXPECT_EQ(text, "x-123<>45");
 }
 
+TEST(AppendScaled, WritesCountsOnBothSidesOfAPowerOfTen)
+{
+    EXPECT_EQ(Quick({9, 0}, {}), "9");
+    EXPECT_EQ(Quick({10, 0}, {}), "10");
+    EXPECT_EQ(Quick({9999999, 0}, {}), "9999999");
+    EXPECT_EQ(Quick({10000000, 0}, {}), "10000000");
+}
+
 TEST(AppendScaled, WritesTheLongestCount)
 {
     EXPECT_EQ(Quick({16777216, 0}, {}), "16777216");
