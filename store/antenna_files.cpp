@@ -55,11 +55,10 @@ std::optional<std::string> FirstWith(const INIManager& file, std::string_view pa
 
 bool WriteIndex(INIManager& index, std::string_view section, std::size_t count, const std::string& date)
 {
-    if (index.GetValue(section, kNumEntries, "").empty() &&
-        !(index.CreateSection(section, index.FileName()) && index.WriteValue(section, kDateCreated, date))) {
-        return false;
-    }
-    return index.WriteValue(section, kLastModified, date) &&
+    const bool isListed = !index.GetValue(section, kNumEntries, "").empty();
+    return (isListed ||
+            (index.CreateSection(section, index.FileName()) && index.WriteValue(section, kDateCreated, date))) &&
+           index.WriteValue(section, kLastModified, date) &&
            index.WriteValue(section, kNumEntries, std::to_string(count));
 }
 
@@ -136,7 +135,7 @@ bool AntennaFiles::SaveChanges(std::string_view brand, std::string_view model, c
     ProfileBatch batch(m_store, file->FileName());
     bool stands = file->WriteValue(model, kGainType, figures.GainType);
     for (std::size_t place = 0; place < kBandSuffixes.size(); ++place) {
-        stands = WriteBand(*file, model, kBandSuffixes.at(place), figures.GainTenths.at(place)) && stands;
+        stands = stands && WriteBand(*file, model, kBandSuffixes.at(place), figures.GainTenths.at(place));
     }
     return stands && batch.Commit();
 }

@@ -2,62 +2,36 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 
 namespace quillon::store {
 namespace {
 
-constexpr unsigned kFirstOwn = 0x80;
-constexpr unsigned kBehindOwn = 0xA0;
+constexpr unsigned kBehindAscii = 0x80;
 
-/// Characters of the bytes 0x80 to 0x9F; all other bytes are the character of their code.
-constexpr std::array<char16_t, kBehindOwn - kFirstOwn> kOwnCharacters{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, // 0x80
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F, // 0x88
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, // 0x90
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178  // 0x98
-};
+/// Characters of the bytes from 0x80 on, in UTF-8.
+constexpr auto kCharacters = std::to_array<std::string_view>({
+    "\u20AC", "\u0081", "\u201A", "\u0192", "\u201E", "\u2026", "\u2020", "\u2021", // 0x80
+    "\u02C6", "\u2030", "\u0160", "\u2039", "\u0152", "\u008D", "\u017D", "\u008F", // 0x88
+    "\u0090", "\u2018", "\u2019", "\u201C", "\u201D", "\u2022", "\u2013", "\u2014", // 0x90
+    "\u02DC", "\u2122", "\u0161", "\u203A", "\u0153", "\u009D", "\u017E", "\u0178", // 0x98
+    "\u00A0", "\u00A1", "\u00A2", "\u00A3", "\u00A4", "\u00A5", "\u00A6", "\u00A7", // 0xA0
+    "\u00A8", "\u00A9", "\u00AA", "\u00AB", "\u00AC", "\u00AD", "\u00AE", "\u00AF", // 0xA8
+    "\u00B0", "\u00B1", "\u00B2", "\u00B3", "\u00B4", "\u00B5", "\u00B6", "\u00B7", // 0xB0
+    "\u00B8", "\u00B9", "\u00BA", "\u00BB", "\u00BC", "\u00BD", "\u00BE", "\u00BF", // 0xB8
+    "\u00C0", "\u00C1", "\u00C2", "\u00C3", "\u00C4", "\u00C5", "\u00C6", "\u00C7", // 0xC0
+    "\u00C8", "\u00C9", "\u00CA", "\u00CB", "\u00CC", "\u00CD", "\u00CE", "\u00CF", // 0xC8
+    "\u00D0", "\u00D1", "\u00D2", "\u00D3", "\u00D4", "\u00D5", "\u00D6", "\u00D7", // 0xD0
+    "\u00D8", "\u00D9", "\u00DA", "\u00DB", "\u00DC", "\u00DD", "\u00DE", "\u00DF", // 0xD8
+    "\u00E0", "\u00E1", "\u00E2", "\u00E3", "\u00E4", "\u00E5", "\u00E6", "\u00E7", // 0xE0
+    "\u00E8", "\u00E9", "\u00EA", "\u00EB", "\u00EC", "\u00ED", "\u00EE", "\u00EF", // 0xE8
+    "\u00F0", "\u00F1", "\u00F2", "\u00F3", "\u00F4", "\u00F5", "\u00F6", "\u00F7", // 0xF0
+    "\u00F8", "\u00F9", "\u00FA", "\u00FB", "\u00FC", "\u00FD", "\u00FE", "\u00FF"  // 0xF8
+});
+static_assert(kBehindAscii + kCharacters.size() == 256);
 
-unsigned CharacterOf(char byte) noexcept
+bool IsAscii(char byte) noexcept
 {
-    const auto code = static_cast<unsigned char>(byte);
-    return code >= kFirstOwn && code < kBehindOwn ? kOwnCharacters[code - kFirstOwn] : code;
-}
-
-std::optional<char> ByteOf(unsigned character) noexcept
-{
-    if (character < kFirstOwn || (character >= kBehindOwn && character <= 0xFF)) {
-        return static_cast<char>(character);
-    }
-    const auto* const own = std::find(kOwnCharacters.begin(), kOwnCharacters.end(), character);
-    if (own == kOwnCharacters.end()) {
-        return std::nullopt;
-    }
-    return static_cast<char>(kFirstOwn + static_cast<unsigned>(own - kOwnCharacters.begin()));
-}
-
-/// Takes the first character off a UTF-8 text. @return nothing for one that takes more than three bytes, which the
-/// code page has none of, and for bytes that are no character.
-std::optional<unsigned> TakeCharacter(std::string_view& text) noexcept
-{
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : 3;
-    constexpr std::array<unsigned, 4> kLeadMark{0, 0x00, 0xC0, 0xE0};
-    constexpr std::array<unsigned, 4> kLeast{0, 0x0, 0x80, 0x800};
-    unsigned character = lead - kLeadMark[length];
-    const bool isLead = character <= (0x7FU >> (length == 1 ? 0 : length));
-    if (!isLead || text.size() < length) {
-        return std::nullopt;
-    }
-    for (std::size_t place = 1; place < length; ++place) {
-        const auto next = static_cast<unsigned char>(text[place]);
-        if ((next & 0xC0U) != 0x80U) {
-            return std::nullopt;
-        }
-        character = (character << 6U) | (next & 0x3FU);
-    }
-    text.remove_prefix(length);
-    return character >= kLeast[length] ? std::optional(character) : std::nullopt;
+    return static_cast<unsigned char>(byte) < kBehindAscii;
 }
 
 } // namespace
@@ -67,18 +41,11 @@ std::string ToUtf8(std::string_view bytes)
     std::string text;
     text.reserve(bytes.size());
     for (const char byte : bytes) {
-        const unsigned character = CharacterOf(byte);
-        if (character < 0x80) {
+        if (IsAscii(byte)) {
             text.push_back(byte);
-            continue;
-        }
-        if (character < 0x800) {
-            text.push_back(static_cast<char>(0xC0U | (character >> 6U)));
         } else {
-            text.push_back(static_cast<char>(0xE0U | (character >> 12U)));
-            text.push_back(static_cast<char>(0x80U | ((character >> 6U) & 0x3FU)));
+            text.append(kCharacters[static_cast<unsigned char>(byte) - kBehindAscii]);
         }
-        text.push_back(static_cast<char>(0x80U | (character & 0x3FU)));
     }
     return text;
 }
@@ -88,12 +55,18 @@ std::optional<std::string> FromUtf8(std::string_view text)
     std::string bytes;
     bytes.reserve(text.size());
     while (!text.empty()) {
-        const std::optional<unsigned> character = TakeCharacter(text);
-        const std::optional<char> byte = character ? ByteOf(*character) : std::nullopt;
-        if (!byte) {
+        if (IsAscii(text.front())) {
+            bytes.push_back(text.front());
+            text.remove_prefix(1);
+            continue;
+        }
+        const auto* const character = std::ranges::find_if(
+            kCharacters, [text](std::string_view candidate) { return text.starts_with(candidate); });
+        if (character == kCharacters.end()) {
             return std::nullopt;
         }
-        bytes.push_back(*byte);
+        bytes.push_back(static_cast<char>(kBehindAscii + static_cast<unsigned>(character - kCharacters.begin())));
+        text.remove_prefix(character->size());
     }
     return bytes;
 }

@@ -51,6 +51,18 @@ TEST(CodePage, GivesEveryByteBack)
     EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
 }
 
+TEST(CodePage, BytesFromA0OnAreTheCharactersOfTheirCode)
+{
+    for (int code = 0xA0; code < 0xC0; ++code) {
+        EXPECT_EQ(ToUtf8(std::string(1, static_cast<char>(code))), std::string("\xC2") + static_cast<char>(code))
+            << code;
+    }
+    for (int code = 0xC0; code <= 0xFF; ++code) {
+        EXPECT_EQ(ToUtf8(std::string(1, static_cast<char>(code))), std::string("\xC3") + static_cast<char>(code - 0x40))
+            << code;
+    }
+}
+
 struct RefusedRow
 {
     const char* name;

@@ -1,6 +1,7 @@
 #include "store/entry_table.h"
 
 #include "store/private_profile.h"
+#include "tests/support/row_name.h"
 
 #include <gtest/gtest.h>
 
@@ -60,10 +61,25 @@ TEST(EntryTable, TakesNoMoreMemoryThanTheText)
     for (int number = 0; number < 100; ++number) {
         text += "a=1\n";
     }
+    text.resize(1207, '\n');
     table.Make(text, sections);
     EXPECT_FALSE(table.IsMade());
-    table.Make(text.append(804, '\n'), sections);
+    table.Make(text.append(1, '\n'), sections); // three slots of eight bytes for two entries, and one more slot
     EXPECT_TRUE(table.IsMade());
+}
+
+TEST(EntryTable, HugeTextHasATableAsLongAsItsOffsetsFit)
+{
+    const std::string entry = "\nk=1";
+    std::string text = "[s]\n";
+    text.resize((std::size_t{64} * 1024 * 1024) - 1 - entry.size(), ' ');
+    text += entry;
+    EXPECT_EQ(PlaceByTable(text, {"s", "k"}), 67'108'861U);
+
+    SectionIndex sections;
+    EntryTable table;
+    table.Make(text.append(2, ' '), sections);
+    EXPECT_FALSE(table.IsMade());
 }
 
 TEST(EntryTable, FindsNothingByNamesThatOnlySeemAlike)
@@ -88,6 +104,44 @@ TEST(EntryTable, FindsNothingByNamesThatOnlySeemAlike)
         }
     }
 }
+
+/// A header and a name that is not its own, of which parts stand there all the same; each "#" stands for a number.
+struct AlikeRow
+{
+    const char* name;
+    std::string header;
+    std::string asked;
+};
+
+class AlikeHeader : public ::testing::TestWithParam<AlikeRow>
+{
+};
+
+std::string WithNumber(std::string text, int number)
+{
+    return text.replace(text.find('#'), 1, std::to_string(number));
+}
+
+TEST_P(AlikeHeader, IsNotTakenForTheOther)
+{
+    for (int number = 0; number < 50'000; ++number) { // some of whose hashes meet the other's by chance
+        const std::string file = "; comment\n" + WithNumber(GetParam().header, number) + "\nk=1]\n";
+        const std::string_view text = std::string_view(file).substr(0, file.size() - 1);
+        ASSERT_EQ(PlaceByTable(text, {WithNumber(GetParam().asked, number), "k"}), 0U) << number;
+    }
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Names, AlikeHeader, ::testing::Values(
+    AlikeRow{"blank before the bracket", " [#]", "[#"},
+    AlikeRow{"letter before the name", "[x#]", "#]"},
+    AlikeRow{"second closing bracket", "[#]]", "#"},
+    AlikeRow{"letter behind the closing bracket", "[#]x\n]", "#]"},
+    AlikeRow{"closing bracket in the next line", "[#]\n]x", "#]\n"},
+    AlikeRow{"part of the entry as well", "[#]", "#]\nk="},
+    AlikeRow{"all up to the text's last bracket", "[#]", "#]\nk=1"}), support::RowName());
+
+// clang-format on
 
 /// Sections and keys whose names come again and again, in all cases and with blanks here and there.
 std::string MixedText(std::minstd_rand& numbers)
