@@ -23,7 +23,7 @@ bool IsHeaderOf(std::string_view text, std::size_t line, std::string_view name) 
 {
     const std::string_view rest = text.substr(line);
     const std::size_t end = name.size() + 2;
-    if (end < rest.size() && rest.front() == '[' && rest[end - 1] == ']' && IsLineBegin(rest, end + 1) &&
+    if (FindLineEnd(rest, 0) == end && rest.front() == '[' && rest[end - 1] == ']' &&
         EqualNames(rest.substr(1, name.size()), name)) {
         return true; // as most headers are written: telling so takes less than finding what the line says
     }

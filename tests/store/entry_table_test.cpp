@@ -137,6 +137,7 @@ INSTANTIATE_TEST_SUITE_P(Names, AlikeHeader, ::testing::Values(
     AlikeRow{"letter before the name", "[x#]", "#]"},
     AlikeRow{"second closing bracket", "[#]]", "#"},
     AlikeRow{"letter behind the closing bracket", "[#]x\n]", "#]"},
+    AlikeRow{"line end in the name", "[#]\n]", "#]\n"},
     AlikeRow{"closing bracket in the next line", "[#]\n]x", "#]\n"},
     AlikeRow{"part of the entry as well", "[#]", "#]\nk="},
     AlikeRow{"all up to the text's last bracket", "[#]", "#]\nk=1"}), support::RowName());
