@@ -85,6 +85,30 @@ TEST_P(SectionIndexSize, FindsEverySectionByNameInAnyCase)
 INSTANTIATE_TEST_SUITE_P(FewAndMany, SectionIndexSize, ::testing::Values(1, 16, 17, 64, 65, 5000),
                          ::testing::PrintToStringParamName());
 
+TEST(SectionIndex, FindsTheFirstOfManyAfterOthers)
+{
+    std::string text;
+    for (int number = 0; number < 50; ++number) {
+        text.append("[").append(std::to_string(number)).append("]\n");
+    }
+    SectionIndex index;
+    for (const char* name : {"7", "9", "0"}) {
+        EXPECT_TRUE(index.Find(text, name)) << name;
+    }
+}
+
+TEST(SectionIndex, FindsEachOfManyShortNames)
+{
+    std::string text;
+    for (int number = 0; number < 5000; ++number) {
+        text.append("[").append(std::to_string(number)).append("]\n");
+    }
+    SectionIndex index;
+    for (int number = 0; number < 5000; ++number) {
+        ASSERT_TRUE(index.Find(text, std::to_string(number))) << number;
+    }
+}
+
 TEST(SectionIndex, FindsNamesAmongManyThatDifferInCaseOnly)
 {
     std::string text;

@@ -179,7 +179,8 @@ TEST_P(RequiredValue, MustBeANumberAndNothingElse)
 
 TEST_P(RequiredValue, MustFitInto32Bits)
 {
-    for (const std::string value : {"1e99", "-1e39", "1e999"}) {
+    // The smallest number that no longer rounds to one of 32 bits, 2^128 - 2^103, is the first.
+    for (const std::string value : {"340282356779733661637539395458142568448", "1e99", "-1e39", "1e999"}) {
         const std::string key = std::string("System1") + GetParam();
         EXPECT_EQ(std::get<DamagedValue>(ReadPair(SampleWithValue(key, value), "home")),
                   (DamagedValue{key, value, Fault::TooLarge}));
@@ -196,6 +197,13 @@ TEST_P(RequiredValue, IsZeroWhenItIsTooCloseToIt)
 
 INSTANTIATE_TEST_SUITE_P(Figures, RequiredValue,
                          ::testing::Values("AntennaGain", "CoaxType", "CoaxLoss", "CoaxLength"));
+
+TEST(SystemEntry, LargestNumberIsTheOneThatStillRoundsTo32Bits)
+{
+    // 2^128 - 2^103 - 2^75
+    const auto read = ReadPair(SampleWithValue("System1CoaxLength", "340282356779733623858607532500980858880"), "home");
+    EXPECT_EQ(std::get<SystemPair>(read)[engine::SystemId::One].CoaxLength, std::numeric_limits<float>::max());
+}
 
 TEST(SystemEntry, FirstDamagedValueIsTheOneNamed)
 {
