@@ -6,7 +6,6 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <memory>
 
 namespace quillon::engine {
 
@@ -40,7 +39,7 @@ Decimal FromScientific(std::string_view text)
     if (exponent.starts_with('+')) {
         exponent.remove_prefix(1);
     }
-    std::from_chars(exponent.data(), std::to_address(exponent.end()), number.point);
+    std::from_chars(exponent.data(), exponent.data() + exponent.size(), number.point);
     ++number.point;
     StripZerosAtEnd(number);
     return number;

@@ -90,7 +90,7 @@ std::optional<float> ReadNumber(std::string_view text) noexcept
     float value = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
     // Out of range, it has left the 0 as it was.
-    if (read.ec == std::errc::result_out_of_range && !IsBelowOne({text.data(), read.ptr})) {
+    if (read.ec == std::errc::result_out_of_range && !IsBelowOne(std::string_view(text.begin(), read.ptr))) {
         value = std::numeric_limits<float>::max();
     }
     return negative ? -value : value;
