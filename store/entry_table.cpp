@@ -18,16 +18,15 @@ std::uint64_t Hash(const EntryName& name) noexcept
     return HashName(name.key, HashName(name.section));
 }
 
-/// @param line  begin of a header line.
-bool IsHeaderOf(std::string_view text, std::size_t line, std::string_view name) noexcept
+/// @param begin  of a header line.
+bool IsHeaderOf(std::string_view text, std::size_t begin, std::string_view name) noexcept
 {
-    const std::string_view rest = text.substr(line);
-    const std::size_t end = name.size() + 2;
-    if (FindLineEnd(rest, 0) == end && rest.front() == '[' && rest[end - 1] == ']' &&
-        EqualNames(rest.substr(1, name.size()), name)) {
+    const std::string_view line = text.substr(begin, FindLineEnd(text, begin) - begin);
+    if (line.size() == name.size() + 2 && line.front() == '[' && line.back() == ']' &&
+        EqualNames(line.substr(1, name.size()), name)) {
         return true; // as most headers are written: telling so takes less than finding what the line says
     }
-    const std::optional<HeaderLine> header = FindHeader(text, line);
+    const std::optional<HeaderLine> header = FindHeader(text, begin);
     return header && EqualNames(header->name, name);
 }
 
