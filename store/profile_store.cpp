@@ -67,7 +67,7 @@ std::string ProfileStore::SectionNames(const std::string& file, std::size_t enou
     const Location location = Locate(file);
     const std::size_t most = kBytesPerCharacter * std::min(enough, kLargestFile);
     const bool isLong = location.status.state == FileState::Regular && Size(location.status.stamp) > most;
-    if (isLong && !IsHeld(location)) {
+    if (isLong && !m_batches.contains(location.path) && FindHeld(location) == m_held.end()) {
         const std::optional<PrivateProfile> beginning = ReadBeginning(location, most);
         std::string names = beginning ? beginning->SectionNames(enough) : std::string();
         if (names.size() >= enough) {
@@ -82,8 +82,9 @@ const PrivateProfile& ProfileStore::ReadAt(const Location& location)
     if (const auto batch = m_batches.find(location.path); batch != m_batches.end()) {
         return ReadInBatch(batch->second, location);
     }
-    if (!m_held.empty() && IsCurrent(m_held.front(), location)) {
-        return m_held.front().profile; // as most often: key after key of a file is asked for
+    if (const auto held = FindHeld(location); held != m_held.end()) {
+        m_held.splice(m_held.begin(), m_held, held); // mostly it is there: key after key of a file is asked for
+        return held->profile;
     }
     if (location.status.state == FileState::Missing) {
         return m_nothing;
@@ -141,16 +142,12 @@ ProfileStore::Location ProfileStore::Locate(const std::string& file) const
     return {found.path.string(), InspectFile(m_calls, found.path.c_str())};
 }
 
-bool ProfileStore::IsCurrent(const Document& document, const Location& location)
+std::list<ProfileStore::Document>::iterator ProfileStore::FindHeld(const Location& location)
 {
-    const FileStatus& status = location.status;
-    return status.state == FileState::Regular && document.path == location.path && document.IsOf(status.stamp);
-}
-
-bool ProfileStore::IsHeld(const Location& location) const
-{
-    const auto isCurrent = [&location](const Document& document) { return IsCurrent(document, location); };
-    return m_batches.contains(location.path) || std::ranges::any_of(m_held, isCurrent);
+    return std::ranges::find_if(m_held, [&location](const Document& document) {
+        const FileStatus& status = location.status;
+        return status.state == FileState::Regular && document.path == location.path && document.IsOf(status.stamp);
+    });
 }
 
 std::optional<PrivateProfile> ProfileStore::ReadBeginning(const Location& location, std::size_t most)

@@ -80,8 +80,8 @@ private:
 
     [[nodiscard]] Location Locate(const std::string& file) const;
     const PrivateProfile& ReadAt(const Location& location);
-    [[nodiscard]] static bool IsCurrent(const Document& document, const Location& location);
-    [[nodiscard]] bool IsHeld(const Location& location) const;
+    /// What is held of the file as it is now, or the end.
+    [[nodiscard]] std::list<Document>::iterator FindHeld(const Location& location);
     [[nodiscard]] std::optional<PrivateProfile> ReadBeginning(const Location& location, std::size_t most);
     [[nodiscard]] std::optional<Document> Take(const Location& location);
     const PrivateProfile& Hold(Document document);
