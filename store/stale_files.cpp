@@ -36,11 +36,13 @@ bool IsDataFile(const ProgramFolder& program, const fs::path& folder, std::strin
 /// Name of the file that a temporary file's name is made of; empty for any other name.
 std::string_view NameInside(std::string_view name)
 {
-    if (name.size() <= kBeforeName.size() + kBehindName.size() || !name.starts_with(kBeforeName) ||
-        !name.ends_with(kBehindName)) {
+    if (!name.starts_with(kBeforeName)) {
         return {};
     }
     name.remove_prefix(kBeforeName.size());
+    if (!name.ends_with(kBehindName)) {
+        return {};
+    }
     name.remove_suffix(kBehindName.size());
     return name;
 }
