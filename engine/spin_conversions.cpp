@@ -47,7 +47,7 @@ SpinValue SpinToOutputPower(float position)
 
 std::int16_t SpinToConnectors(int position)
 {
-    return ToInteger(25 - static_cast<double>(position));
+    return ToInteger(25.0 - position);
 }
 
 float RoundTenths(float value)
